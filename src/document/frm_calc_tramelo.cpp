@@ -1,0 +1,59 @@
+#include "document/frm_calc_tramelo.h"
+
+#include <algorithm>
+
+namespace tramelo {
+
+FrmCalcTramelo::FrmCalcTramelo() : Relatorio(std::make_unique<FrmRelatorio>()) {
+    txtTag.MaxLength = 20;
+    cboMassaDensidade.AddItem("Massa Específica (Kg/m³)");
+    cboMassaDensidade.AddItem("Densidade Relativa");
+    linhas[0].emplace();
+    linhas[1].emplace();
+    for (int i : LinhasDados) {
+        Linha& l = linhas[static_cast<size_t>(i)].emplace();
+        l.lblDados.emplace();
+        l.txtDados.emplace();
+        l.txtDados->MaxLength = 20;
+        bool semLista = i >= 25 && i <= 28;
+        if (!semLista) l.cboDados.emplace();
+    }
+    // Rows 17 to 19 have their unit lists, but nobody sees them.
+    for (int i = 17; i <= 19; ++i) cboDados(i)->Visible = false;
+    txtDados(10)->Locked = true;
+    txtDados(29)->Enabled = false;
+    // The built order: the rows stand one below the other as designed.
+    int p = 0;
+    for (int i : {0, 2, 4, 5, 8, 9, 10, 12, 14, 16, 1, 17, 18, 19, 20, 25, 26, 27, 28, 29})
+        linhas[static_cast<size_t>(i)]->picDados.Top = 25 * p++;
+}
+
+void FrmCalcTramelo::DefineAlterado(bool v) {
+    if (v == alterado_) return;
+    alterado_ = v;
+}
+
+Faixa* FrmCalcTramelo::picDados(int i) {
+    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
+    return &linhas[static_cast<size_t>(i)]->picDados;
+}
+
+Rotulo* FrmCalcTramelo::lblDados(int i) {
+    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
+    auto& o = linhas[static_cast<size_t>(i)]->lblDados;
+    return o ? &*o : nullptr;
+}
+
+CaixaTexto* FrmCalcTramelo::txtDados(int i) {
+    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
+    auto& o = linhas[static_cast<size_t>(i)]->txtDados;
+    return o ? &*o : nullptr;
+}
+
+CaixaCombinacao* FrmCalcTramelo::cboDados(int i) {
+    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
+    auto& o = linhas[static_cast<size_t>(i)]->cboDados;
+    return o ? &*o : nullptr;
+}
+
+} // namespace tramelo

@@ -1,0 +1,109 @@
+// A calculation as a record: the calculation window's controls and members.
+// The window is the record; the desktop view only shows it and passes the
+// user's actions to the routines that work on it.
+#pragma once
+
+#include "document/controles.h"
+#include "plataforma/variante.h"
+#include "report/frm_relatorio.h"
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace tramelo {
+
+// One data row: strip, caption, text and unit list. Some rows lack a list.
+struct Linha {
+    Faixa picDados;
+    std::optional<Rotulo> lblDados;
+    std::optional<CaixaTexto> txtDados;
+    std::optional<CaixaCombinacao> cboDados;
+};
+
+struct Painel {
+    bool Enabled = true;
+    bool Visible = true;
+    int Top = 0;
+    int Height = 0;
+    bool corAtiva = false; // picMenu: painted in the active title bar colour
+};
+
+struct BarraRolagem {
+    bool Enabled = true;
+    int Value = 0;
+    int Max = 0;
+    int LargeChange = 1;
+    int SmallChange = 1;
+    int Top = 0;
+    int Height = 224;
+};
+
+// Row indices that exist, in display order of the design.
+inline constexpr std::array<int, 18> LinhasDados = {2,  4,  5,  8,  9,  10, 12, 14, 16,
+                                                     17, 18, 19, 20, 25, 26, 27, 28, 29};
+
+class FrmCalcTramelo {
+public:
+    FrmCalcTramelo(); // builds the controls as designed; Form_Load does the rest
+    FrmCalcTramelo(const FrmCalcTramelo&) = delete;
+    FrmCalcTramelo& operator=(const FrmCalcTramelo&) = delete;
+
+    std::string Caption;
+    bool Visible = false;
+    bool Enabled = true;
+
+    // Members, in declaration order.
+    std::string ArquivoCalculo;
+    bool Alterado() const { return alterado_; }
+    void DefineAlterado(bool v); // stores, and mirrors the state onto the bars when it changes
+    bool CarregandoArquivo = false;
+    bool ArquivoExiste = false;
+    std::string TextoData, TextoOS, TextoCliente;
+    std::unique_ptr<FrmRelatorio> Relatorio;
+    float FatorPerda = 1.0f;
+    Variante ValorCampo;
+    std::string NomeMaterial;
+    short Campo = 0;
+    short Escala = 0;
+    short Fluido = 0;
+    short Tomada = 0;
+    short Placa = 0;
+
+    // The selections.
+    Rotulo lblTramelo{"Tipo de orifício"}, lblFluido{"Fluido"}, lblTomada{"Posição das tomadas"};
+    CaixaCombinacao cboTramelo, cboFluido, cboTomada;
+    // Row 0, the tag, and row 1, the density mode.
+    Rotulo lblTag{"Tag"};
+    CaixaTexto txtTag;
+    Rotulo lblMassaDensidade{"Massa / Densidade"};
+    CaixaCombinacao cboMassaDensidade;
+    // Hidden controls that the toolbar reaches.
+    struct {
+        bool Enabled = true;
+        bool Visible = false;
+    } cmdCalcular;
+    struct {
+        bool Enabled = true;
+        bool Visible = false;
+        int Value = 0;
+    } chkDesenho;
+    Painel picLista, picMove, picMenu;
+    BarraRolagem barraV;
+
+    std::array<std::optional<Linha>, 31> linhas;
+    // The control that has the focus, by name: "txtDados(9)", "txtTag", ...
+    std::string foco;
+
+    // A row's controls; nullptr where the row or the control doesn't exist.
+    Faixa* picDados(int i);
+    Rotulo* lblDados(int i);
+    CaixaTexto* txtDados(int i);
+    CaixaCombinacao* cboDados(int i);
+
+private:
+    bool alterado_ = false;
+};
+
+} // namespace tramelo

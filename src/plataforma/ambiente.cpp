@@ -1,0 +1,26 @@
+#include "plataforma/ambiente.h"
+
+namespace tramelo {
+
+Ambiente& ambiente() {
+    static Ambiente a;
+    return a;
+}
+
+int MsgBox(const std::string& texto, int estilo, const std::string& titulo) {
+    if (Caixas* c = ambiente().caixas) return c->MsgBox(texto, estilo, titulo);
+    switch (estilo & 7) {
+    case vbOKCancel: return vbOK;
+    case vbYesNoCancel:
+    case vbYesNo: return vbYes;
+    default: return vbOK;
+    }
+}
+
+std::string InputBox(const std::string& prompt, const std::string& titulo,
+                     const std::string& padrao) {
+    if (Caixas* c = ambiente().caixas) return c->InputBox(prompt, titulo, padrao);
+    return padrao;
+}
+
+} // namespace tramelo

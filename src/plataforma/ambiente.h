@@ -1,0 +1,26 @@
+// The platform services the core reaches, one small interface each. The
+// desktop program, the command-line tool and the tests each install their own
+// before the first routine runs.
+#pragma once
+
+#include "plataforma/caixas.h"
+
+#include <string>
+
+namespace tramelo {
+
+struct Ambiente {
+    Caixas* caixas = nullptr;
+};
+
+// The program-wide services.
+Ambiente& ambiente();
+
+// A message box through the installed service. Without one, the box is
+// answered with its first button, as a user pressing Enter would.
+int MsgBox(const std::string& texto, int estilo = vbOKOnly,
+           const std::string& titulo = TituloPrograma);
+std::string InputBox(const std::string& prompt, const std::string& titulo,
+                     const std::string& padrao);
+
+} // namespace tramelo

@@ -1,0 +1,83 @@
+#include "plataforma/texto.h"
+
+#include "plataforma/falha.h"
+
+namespace tramelo {
+namespace {
+
+bool Continuacao(unsigned char c) { return (c & 0xC0) == 0x80; }
+
+// Byte offset of character n (from 0); the size when beyond the end.
+size_t Deslocamento(std::string_view s, int n) {
+    size_t i = 0;
+    while (i < s.size() && n > 0) {
+        ++i;
+        while (i < s.size() && Continuacao(static_cast<unsigned char>(s[i]))) ++i;
+        --n;
+    }
+    return i;
+}
+
+} // namespace
+
+int Len(std::string_view s) {
+    int n = 0;
+    for (unsigned char c : s)
+        if (!Continuacao(c)) ++n;
+    return n;
+}
+
+std::string Left(std::string_view s, int n) {
+    if (n < 0) throw Falha(ArgumentoInvalido);
+    return std::string(s.substr(0, Deslocamento(s, n)));
+}
+
+std::string Mid(std::string_view s, int inicio) {
+    if (inicio < 1) throw Falha(ArgumentoInvalido);
+    return std::string(s.substr(Deslocamento(s, inicio - 1)));
+}
+
+std::string Mid(std::string_view s, int inicio, int n) {
+    if (n < 0) throw Falha(ArgumentoInvalido);
+    return Left(Mid(s, inicio), n);
+}
+
+std::string String(int n, std::string_view c) {
+    if (n < 0 || c.empty()) throw Falha(ArgumentoInvalido);
+    std::string_view primeiro = c.substr(0, Deslocamento(c, 1));
+    std::string r;
+    r.reserve(static_cast<size_t>(n) * primeiro.size());
+    for (int i = 0; i < n; ++i) r += primeiro;
+    return r;
+}
+
+int InStr(int inicio, std::string_view s, std::string_view procura) {
+    if (inicio < 1) throw Falha(ArgumentoInvalido);
+    size_t de = Deslocamento(s, inicio - 1);
+    size_t p = s.find(procura, de);
+    if (p == std::string_view::npos) return 0;
+    return Len(s.substr(0, p)) + 1;
+}
+
+std::string LCase(std::string_view s) {
+    std::string r;
+    r.reserve(s.size());
+    for (size_t i = 0; i < s.size(); ++i) {
+        unsigned char c = static_cast<unsigned char>(s[i]);
+        if (c >= 'A' && c <= 'Z') {
+            r += static_cast<char>(c + 32);
+        } else if (c == 0xC3 && i + 1 < s.size()) {
+            // U+00C0..U+00DE (but not U+00D7) lower to U+00E0..U+00FE.
+            unsigned char d = static_cast<unsigned char>(s[i + 1]);
+            if (d >= 0x80 && d <= 0x9E && d != 0x97) d = static_cast<unsigned char>(d + 0x20);
+            r += static_cast<char>(c);
+            r += static_cast<char>(d);
+            ++i;
+        } else {
+            r += static_cast<char>(c);
+        }
+    }
+    return r;
+}
+
+} // namespace tramelo

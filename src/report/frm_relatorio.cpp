@@ -1,0 +1,19 @@
+#include "report/frm_relatorio.h"
+
+#include "plataforma/texto.h"
+
+namespace tramelo {
+
+FrmRelatorio::FrmRelatorio() {
+    std::string s = " Descrição";
+    s += String(35 - Len("Descrição"), " ") + "Valor";
+    s += String(79 - Len(s) - Len("Escala"), " ") + "Escala";
+    lblMenu = std::move(s);
+}
+
+void FrmRelatorio::ZOrder() {
+    static int contador = 0;
+    ordemZ = ++contador;
+}
+
+} // namespace tramelo

@@ -1,0 +1,39 @@
+// The report of one calculation as a record: its lines, its three header
+// fields with their labels, the column header, and the window's shown state.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tramelo {
+
+struct FrmRelatorio {
+    FrmRelatorio(); // the window's load: builds lblMenu
+
+    std::string Caption;
+    bool Visible = false;
+    bool Enabled = true;
+    int ordemZ = 0; // raised by ZOrder: the front-most report has the highest
+
+    // The line store; every line begins with the blank that AddRel adds.
+    std::vector<std::string> lstRelatorio;
+
+    // Header fields, and their labels (data: printing and export use them).
+    std::string txtData = "Abrindo";
+    std::string txtOS = "Não alterar o conteúdo do: \"Hora - data\" = \"txtData'\"";
+    std::string txtCliente;
+    std::string lblData = " Hora - data......:";
+    std::string lblOS = " Ordem de serviço.:";
+    std::string lblCliente = " Cliente..........:";
+    // The 79-character column header above the list.
+    std::string lblMenu;
+
+    void Show() { Visible = true; }
+    void Hide() { Visible = false; }
+    void ZOrder();
+};
+
+// The marker in txtData of a report that was never initialised.
+inline constexpr const char* MarcaAbrindo = "Abrindo";
+
+} // namespace tramelo
