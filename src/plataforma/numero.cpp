@@ -107,8 +107,18 @@ std::optional<double> LeNumero(std::string_view t) {
     double v = 0;
     auto r = std::from_chars(buf, buf + k, v);
     if (r.ec == std::errc::result_out_of_range) {
-        // Below the smallest double the platform gives 0; above the largest, overflow.
-        if (std::fabs(v) < 1) return negativo ? -0.0 : 0.0;
+        // Below the smallest double the platform gives 0; above the largest,
+        // overflow. The decimal exponent of the first significant digit tells which.
+        int expoente = 0, ponto = -1, primeiro = -1, n = 0;
+        for (size_t j = 0; j < k && buf[j] != 'e'; ++j) {
+            if (buf[j] == '.') { ponto = n; continue; }
+            if (primeiro < 0 && buf[j] != '0') primeiro = n;
+            ++n;
+        }
+        if (const char* e = static_cast<const char*>(std::memchr(buf, 'e', k)))
+            std::from_chars(e[1] == '+' ? e + 2 : e + 1, buf + k, expoente);
+        if (ponto < 0) ponto = n;
+        if (primeiro < 0 || ponto - primeiro - 1 + expoente < 0) return negativo ? -0.0 : 0.0;
         return HUGE_VAL;
     }
     if (r.ec != std::errc() || r.ptr != buf + k) return std::nullopt;

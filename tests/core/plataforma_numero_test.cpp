@@ -1,0 +1,132 @@
+// Numbers and their text under the decimal comma.
+#include "plataforma/falha.h"
+#include "plataforma/num.h"
+#include "plataforma/numero.h"
+#include "plataforma/texto.h"
+#include "plataforma/variante.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace tramelo {
+namespace {
+
+TEST(PlataformaNumero, TextoParaNumero) {
+    struct Caso {
+        const char* texto;
+        double valor;
+    };
+    const Caso casos[] = {
+        {"12,5", 12.5},     {"  12,5  ", 12.5}, {"12,", 12},         {",5", 0.5},
+        {"-3", -3},         {"+3", 3},          {"1.234,5", 1234.5}, {"1.5", 15},
+        {"1.2.3", 123},     {"1E3", 1000},      {"1,5e-2", 0.015},   {"2E+2", 200},
+        {"102,26", 102.26}, {"0", 0},           {"1e-400", 0},
+    };
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.texto);
+        EXPECT_EQ(TextoParaNumero(c.texto), c.valor);
+    }
+    const char* invalidos[] = {"", " ", "abc", "1,2,3", "1a", "--1", "+", "-", ",", "1E",
+                               "E5", "1,5.3", "1 2", "1/2", "1e5x"};
+    for (const char* t : invalidos) {
+        SCOPED_TRACE(t);
+        try {
+            TextoParaNumero(t);
+            ADD_FAILURE() << "aceitou";
+        } catch (const Falha& f) {
+            EXPECT_EQ(f.numero(), 13);
+            EXPECT_EQ(f.descricao(), "Tipos incompatíveis");
+        }
+    }
+    try {
+        TextoParaNumero("1E400");
+        ADD_FAILURE();
+    } catch (const Falha& f) {
+        EXPECT_EQ(f.numero(), 6);
+    }
+}
+
+TEST(PlataformaNumero, NumeroParaTexto) {
+    struct Caso {
+        double valor;
+        const char* texto;
+    };
+    const Caso casos[] = {
+        {0, "0"},
+        {1, "1"},
+        {-1.5, "-1,5"},
+        {12.5, "12,5"},
+        {0.0001, "0,0001"},
+        {0.00015, "0,00015"},
+        {0.000015, "1,5E-05"},
+        {1e15, "1E+15"},
+        {999999999999999, "999999999999999"},
+        {123456789012345678.0, "1,23456789012346E+17"},
+        {0.1 + 0.2, "0,3"},
+        {1.0 / 3, "0,333333333333333"},
+        {2.0 / 3, "0,666666666666667"},
+        {101.325249795, "101,325249795"},
+        {1e100, "1E+100"},
+        {15000.000000000002, "15000"},
+        {1.00051, "1,00051"},
+        {0.99999999999999989, "1"},
+        {9.9999999999999995e-5, "0,0001"},
+    };
+    for (const Caso& c : casos) EXPECT_EQ(NumeroParaTexto(c.valor), c.texto) << c.texto;
+    EXPECT_EQ(NumeroSimplesParaTexto(0.102f), "0,102");
+}
+
+TEST(PlataformaNumero, ValLenienteECInt) {
+    EXPECT_EQ(Val(" 12 "), 12);
+    EXPECT_EQ(Val("1 2"), 12);
+    EXPECT_EQ(Val("3,5"), 3);
+    EXPECT_EQ(Val("3.5"), 3.5);
+    EXPECT_EQ(Val("abc"), 0);
+    EXPECT_EQ(Val(""), 0);
+    EXPECT_EQ(Val("&H1F"), 31);
+    EXPECT_EQ(Val("-7x"), -7);
+    EXPECT_EQ(CInt(2.5), 2);
+    EXPECT_EQ(CInt(3.5), 4);
+    EXPECT_EQ(CInt(-0.5), 0);
+    EXPECT_THROW(CInt(40000), Falha);
+}
+
+TEST(PlataformaNumero, AritmeticaFalhaComoAPlataforma) {
+    auto numero = [](auto f) {
+        try {
+            f();
+        } catch (const Falha& e) {
+            return e.numero();
+        }
+        return 0;
+    };
+    EXPECT_EQ(numero([] { return Num(1) / 0; }), 11);
+    EXPECT_EQ(numero([] { return Num(0) / 0; }), 6);
+    EXPECT_EQ(numero([] { return Sqr(-1); }), 5);
+    EXPECT_EQ(numero([] { return Log(0); }), 5);
+    EXPECT_EQ(numero([] { return Pot(-2, 0.5); }), 5);
+    EXPECT_EQ(numero([] { return Num(1e300) * 1e300; }), 6);
+    EXPECT_EQ(numero([] { return String(-1, "_"); }), 5);
+    EXPECT_EQ(Pot(-2, 2).valor(), 4);
+    EXPECT_EQ(Pot(0, 2.5).valor(), 0);
+    EXPECT_EQ(Variante().Numero().valor(), 0);
+    EXPECT_EQ(numero([] { return Variante("abc").Numero(); }), 13);
+    EXPECT_EQ(Variante(12.5).Texto(), "12,5");
+}
+
+TEST(PlataformaTexto, ComprimentoEmCaracteres) {
+    EXPECT_EQ(Len("Pressão diferencial"), 19);
+    EXPECT_EQ(Len("Diâmetro do orifício"), 20);
+    EXPECT_EQ(Len("M³/h"), 4);
+    EXPECT_EQ(Left("Água (Liqüido)", 4), "Água");
+    EXPECT_EQ(Mid("Água (Liqüido)", 7), "Liqüido)");
+    EXPECT_EQ(Mid("Água (Liqüido)", 7, 7), "Liqüido");
+    EXPECT_EQ(InStr(1, "Água (Liqüido)", "("), 6);
+    EXPECT_EQ(String(3, "=x"), "===");
+    EXPECT_EQ(LCase("C:\\ARQUIVOS\\ÁGUA.trl"), "c:\\arquivos\\água.trl");
+}
+
+} // namespace
+} // namespace tramelo
