@@ -12,6 +12,38 @@ namespace {
 bool Branco(char c) { return c == ' ' || c == '\t'; }
 bool Digito(char c) { return c >= '0' && c <= '9'; }
 
+// The significant digits of x > 0 rounded to `digitos`, from its shortest
+// round-trip text, which is fast. That text is the nearest of its length to x,
+// so rounding it gives the rounding of x itself, except on a tie ("5" or
+// "50" after the kept digits): then the caller rounds the exact value.
+bool Digitos(double x, int digitos, char* mantissa, int& n, int& expoente) {
+    char buf[64];
+    auto [fim, ec] = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::scientific);
+    if (ec != std::errc()) return false;
+    char* e = static_cast<char*>(std::memchr(buf, 'e', static_cast<size_t>(fim - buf)));
+    std::from_chars(e[1] == '+' ? e + 2 : e + 1, fim, expoente);
+    n = 0;
+    for (char* p = buf; p < e; ++p)
+        if (*p != '.') mantissa[n++] = *p;
+    if (n <= digitos) return true;
+    const char* resto = mantissa + digitos;
+    const int nResto = n - digitos;
+    if (resto[0] == '5' && (nResto == 1 || (nResto == 2 && resto[1] == '0'))) return false;
+    const bool sobe = resto[0] >= '5';
+    n = digitos;
+    if (sobe) {
+        int i = n - 1;
+        while (i >= 0 && mantissa[i] == '9') mantissa[i--] = '0';
+        if (i < 0) {
+            mantissa[0] = '1';
+            ++expoente;
+        } else {
+            ++mantissa[i];
+        }
+    }
+    return true;
+}
+
 // Writes x in the default text form; `digitos` is the number of significant
 // digits to keep (15 for a double, 7 for a single).
 void Formata(std::string& saida, double x, int digitos) {
@@ -19,18 +51,21 @@ void Formata(std::string& saida, double x, int digitos) {
         saida += '0';
         return;
     }
-    // d.ddddde+XX with `digitos` significant digits, correctly rounded.
-    char buf[64];
-    auto [fim, ec] = std::to_chars(buf, buf + sizeof buf, std::fabs(x),
-                                   std::chars_format::scientific, digitos - 1);
-    (void)ec;
-    char* e = static_cast<char*>(std::memchr(buf, 'e', static_cast<size_t>(fim - buf)));
-    int expoente = 0;
-    std::from_chars(e[1] == '+' ? e + 2 : e + 1, fim, expoente);
     char mantissa[32];
     int n = 0;
-    for (char* p = buf; p < e; ++p)
-        if (*p != '.') mantissa[n++] = *p;
+    int expoente = 0;
+    if (!Digitos(std::fabs(x), digitos, mantissa, n, expoente)) {
+        // d.ddddde+XX with `digitos` significant digits, correctly rounded.
+        char buf[64];
+        auto [fim, ec] = std::to_chars(buf, buf + sizeof buf, std::fabs(x),
+                                       std::chars_format::scientific, digitos - 1);
+        (void)ec;
+        char* e = static_cast<char*>(std::memchr(buf, 'e', static_cast<size_t>(fim - buf)));
+        std::from_chars(e[1] == '+' ? e + 2 : e + 1, fim, expoente);
+        n = 0;
+        for (char* p = buf; p < e; ++p)
+            if (*p != '.') mantissa[n++] = *p;
+    }
     while (n > 1 && mantissa[n - 1] == '0') --n;
 
     if (x < 0) saida += '-';

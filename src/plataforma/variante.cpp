@@ -6,7 +6,13 @@ namespace tramelo {
 
 Num Variante::Numero() const {
     if (auto d = std::get_if<double>(&v_)) return *d;
-    if (auto t = std::get_if<std::string>(&v_)) return TextoParaNumero(*t);
+    if (auto t = std::get_if<std::string>(&v_)) {
+        if (!convertido_) {
+            numero_ = TextoParaNumero(*t);
+            convertido_ = true;
+        }
+        return numero_;
+    }
     return 0.0;
 }
 

@@ -30,6 +30,9 @@ public:
 
 private:
     std::variant<std::monostate, double, std::string> v_;
+    // A text's number, once converted: a run reads the same field many times.
+    mutable double numero_ = 0;
+    mutable bool convertido_ = false;
 };
 
 } // namespace tramelo

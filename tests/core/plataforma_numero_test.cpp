@@ -9,6 +9,9 @@
 
 #include <cmath>
 #include <limits>
+#include <charconv>
+#include <cstdint>
+#include <cstring>
 
 namespace tramelo {
 namespace {
@@ -126,6 +129,38 @@ TEST(PlataformaTexto, ComprimentoEmCaracteres) {
     EXPECT_EQ(InStr(1, "Água (Liqüido)", "("), 6);
     EXPECT_EQ(String(3, "=x"), "===");
     EXPECT_EQ(LCase("C:\\ARQUIVOS\\ÁGUA.trl"), "c:\\arquivos\\água.trl");
+}
+
+} // namespace
+} // namespace tramelo
+
+namespace tramelo {
+namespace {
+
+// The default text form against the exact rounding to 15 digits, over many
+// doubles of every magnitude, ties included.
+TEST(PlataformaNumero, QuinzeDigitosComoOArredondamentoExato) {
+    auto referencia = [](double x) {
+        char buf[64];
+        auto r = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::scientific, 14);
+        double arredondado = 0;
+        std::from_chars(buf, r.ptr, arredondado);
+        return arredondado;
+    };
+    uint64_t estado = 88172645463325252ull;
+    for (int i = 0; i < 200000; ++i) {
+        estado ^= estado << 13;
+        estado ^= estado >> 7;
+        estado ^= estado << 17;
+        double x;
+        if (i % 4 == 0) x = static_cast<double>(estado % 100000000000000000ull) / 100; // ties
+        else {
+            uint64_t bits = (estado & 0x000FFFFFFFFFFFFFull) | (uint64_t{1000 + estado % 100} << 52);
+            std::memcpy(&x, &bits, sizeof x);
+        }
+        std::string texto = NumeroParaTexto(x);
+        ASSERT_EQ(TextoParaNumero(texto), referencia(x)) << texto;
+    }
 }
 
 } // namespace

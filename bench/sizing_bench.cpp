@@ -1,0 +1,75 @@
+// One run of "Calcular" (fields read, report lines written) and the secant
+// iteration alone.
+#include "calculo_pronto.h"
+#include "caixas_roteiro.h"
+#include "plataforma/numero.h"
+#include "sizing/calculo.h"
+#include "sizing/execucao.h"
+#include "sizing/iteracao.h"
+
+#include <benchmark/benchmark.h>
+
+namespace tramelo::teste {
+namespace {
+
+void CalcularLiquido(benchmark::State& estado) {
+    CaixasRoteiro caixas;
+    auto f = CalculoPronto(0, 1);
+    Preenche(*f, {{2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"},
+                  {18, "998"}, {20, "1"}, {28, "0,8"}});
+    for (auto _ : estado) {
+        ResultadoCalculo r = cmdCalcular_Click(*f);
+        benchmark::DoNotOptimize(r);
+    }
+    estado.counters["linhas"] = static_cast<double>(f->Relatorio->lstRelatorio.size());
+}
+BENCHMARK(CalcularLiquido);
+
+void CalcularAr(benchmark::State& estado) {
+    CaixasRoteiro caixas;
+    auto f = CalculoPronto(1, 1);
+    f->cboDados(29)->DefineListIndex(1);
+    Preenche(*f, {{2, "1000"}, {4, "102,26"}, {5, "10000"}, {8, "0"}, {9, "40"}, {12, "500"},
+                  {16, "0"}, {19, "1"}, {25, "1"}, {26, "1"}, {20, "0,018"}, {27, "1,4"},
+                  {28, "0,8"}, {29, "1"}});
+    for (auto _ : estado) {
+        ResultadoCalculo r = cmdCalcular_Click(*f);
+        benchmark::DoNotOptimize(r);
+    }
+    estado.counters["linhas"] = static_cast<double>(f->Relatorio->lstRelatorio.size());
+}
+BENCHMARK(CalcularAr);
+
+// The secant loop of the air case: three passes with the expansibility.
+void IteracaoBeta(benchmark::State& estado) {
+    CaixasRoteiro caixas;
+    auto f = CalculoPronto(1, 1);
+    f->cboDados(29)->DefineListIndex(1);
+    Preenche(*f, {{2, "1000"}, {4, "102,26"}, {5, "10000"}, {8, "0"}, {9, "40"}, {12, "500"},
+                  {16, "0"}, {19, "1"}, {25, "1"}, {26, "1"}, {20, "0,018"}, {27, "1,4"},
+                  {28, "0,8"}, {29, "1"}});
+    Execucao x;
+    cmdCalcular_Click(*f, &x);
+    const Num coefCarga = x.CoefCarga;
+    for (auto _ : estado) {
+        x.CoefAlvo = coefCarga;
+        bool ok = CalculaBeta(x, 1, 1, 102.26);
+        benchmark::DoNotOptimize(ok);
+        benchmark::DoNotOptimize(x.Beta);
+    }
+    estado.counters["passos"] = x.passes;
+}
+BENCHMARK(IteracaoBeta);
+
+void FormataQuarentaNumeros(benchmark::State& estado) {
+    std::string s;
+    for (auto _ : estado) {
+        s.clear();
+        for (int i = 0; i < 40; ++i) AcrescentaNumero(s, 1.35284062679053 * (i + 1));
+        benchmark::DoNotOptimize(s.data());
+    }
+}
+BENCHMARK(FormataQuarentaNumeros);
+
+} // namespace
+} // namespace tramelo::teste
