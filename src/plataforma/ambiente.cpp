@@ -7,6 +7,12 @@ Ambiente& ambiente() {
     return a;
 }
 
+Momento Agora() {
+    if (Relogio* r = ambiente().relogio) return r->Agora();
+    static RelogioSistema sistema;
+    return sistema.Agora();
+}
+
 int MsgBox(const std::string& texto, int estilo, const std::string& titulo) {
     if (Caixas* c = ambiente().caixas) return c->MsgBox(texto, estilo, titulo);
     switch (estilo & 7) {

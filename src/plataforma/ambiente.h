@@ -4,6 +4,7 @@
 #pragma once
 
 #include "plataforma/caixas.h"
+#include "plataforma/relogio.h"
 
 #include <string>
 
@@ -11,7 +12,11 @@ namespace tramelo {
 
 struct Ambiente {
     Caixas* caixas = nullptr;
+    Relogio* relogio = nullptr; // the system clock when none is installed
 };
+
+// The current moment from the installed clock.
+Momento Agora();
 
 // The program-wide services.
 Ambiente& ambiente();

@@ -27,6 +27,8 @@ struct FrmRelatorio {
     std::string lblCliente = " Cliente..........:";
     // The 79-character column header above the list.
     std::string lblMenu;
+    // The control that has the focus, by name ("txtData", ...).
+    std::string foco;
 
     void Show() { Visible = true; }
     void Hide() { Visible = false; }

@@ -1,0 +1,53 @@
+#include "shell/mod_base.h"
+
+#include "document/controles.h"
+#include "plataforma/ambiente.h"
+#include "plataforma/texto.h"
+
+#include <filesystem>
+
+namespace tramelo {
+
+ModBase& modBase() {
+    static ModBase m;
+    return m;
+}
+
+void DefinePastas(const std::string& pastaPrograma) {
+    ModBase& m = modBase();
+    m.PastaPrograma = pastaPrograma;
+    m.PastaSaves = pastaPrograma + "/Saves";
+    m.PastaRelatorios = pastaPrograma + "/Relatorios";
+}
+
+void InformaErro(const ErroExecucao& erro) {
+    MsgBox("Descrição do Erro: " + erro.descricao + "\n\n" +
+               "Em caso de dúvidas, informe o código e descrição do erro ao fabricante do software",
+           vbCritical + vbOKOnly, "Informação de Erro Código :" + std::to_string(erro.numero));
+}
+
+void InformaErro(const Falha& falha) { InformaErro(ErroExecucao{falha.numero(), falha.descricao()}); }
+
+void SelecionaTexto(CaixaTexto& campo) {
+    campo.SelStart = 0;
+    campo.SelLength = Len(campo.Text());
+}
+
+void CriaPasta(const std::string& pasta) {
+    std::error_code ec;
+    if (std::filesystem::is_directory(pasta, ec)) return;
+    std::filesystem::create_directories(pasta, ec);
+    if (ec || !std::filesystem::is_directory(pasta, ec)) throw Falha(76);
+}
+
+bool ExistePasta(const std::string& pasta) {
+    std::error_code ec;
+    return !pasta.empty() && std::filesystem::is_directory(pasta, ec);
+}
+
+bool ExisteArquivo(const std::string& arquivo) {
+    std::error_code ec;
+    return !arquivo.empty() && std::filesystem::is_regular_file(arquivo, ec);
+}
+
+} // namespace tramelo
