@@ -1,10 +1,24 @@
 #include "plataforma/ambiente.h"
 
+#include "plataforma/falha.h"
+
 namespace tramelo {
 
 Ambiente& ambiente() {
     static Ambiente a;
     return a;
+}
+
+std::string ShowOpen(ConfiguraDialogo& d) {
+    Dialogos* dl = ambiente().dialogos;
+    if (!dl || !dl->ShowOpen(d)) throw Falha(DialogoCancelado);
+    return d.FileName;
+}
+
+std::string ShowSave(ConfiguraDialogo& d) {
+    Dialogos* dl = ambiente().dialogos;
+    if (!dl || !dl->ShowSave(d)) throw Falha(DialogoCancelado);
+    return d.FileName;
 }
 
 Momento Agora() {

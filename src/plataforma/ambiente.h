@@ -4,6 +4,7 @@
 #pragma once
 
 #include "plataforma/caixas.h"
+#include "plataforma/dialogos.h"
 #include "plataforma/relogio.h"
 
 #include <string>
@@ -13,7 +14,12 @@ namespace tramelo {
 struct Ambiente {
     Caixas* caixas = nullptr;
     Relogio* relogio = nullptr; // the system clock when none is installed
+    Dialogos* dialogos = nullptr; // none: every dialog is cancelled
 };
+
+// The open and save dialogs: the chosen name, or failure 32755 on cancel.
+std::string ShowOpen(ConfiguraDialogo& d);
+std::string ShowSave(ConfiguraDialogo& d);
 
 // The current moment from the installed clock.
 Momento Agora();
