@@ -4,13 +4,25 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/texto.h"
 
+#include <cstdlib>
 #include <filesystem>
+
+#include <unistd.h>
 
 namespace tramelo {
 
 ModBase& modBase() {
     static ModBase m;
     return m;
+}
+
+std::string PastaDadosPrograma(const std::string& pastaExecutavel) {
+    if (!pastaExecutavel.empty() && access(pastaExecutavel.c_str(), W_OK) == 0) return pastaExecutavel;
+    std::string base;
+    if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x) base = x;
+    else if (const char* h = std::getenv("HOME"); h && *h) base = std::string(h) + "/.local/share";
+    else base = "/tmp";
+    return base + "/Tramelo";
 }
 
 void DefinePastas(const std::string& pastaPrograma) {

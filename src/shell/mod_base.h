@@ -19,6 +19,11 @@ struct ModBase {
 
 ModBase& modBase();
 
+// The program's data folder for an executable in `pastaExecutavel`: that
+// folder when it can be written, otherwise $XDG_DATA_HOME/Tramelo (by default
+// ~/.local/share/Tramelo), so that an installed copy works for a plain user.
+std::string PastaDadosPrograma(const std::string& pastaExecutavel);
+
 // Sets the program folder and the two folders beside it. Touches no folder.
 void DefinePastas(const std::string& pastaPrograma);
 
