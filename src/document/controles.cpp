@@ -2,6 +2,8 @@
 
 #include "plataforma/falha.h"
 
+#include <algorithm>
+
 namespace tramelo {
 
 void CaixaTexto::DefineTexto(std::string t) {
@@ -29,6 +31,18 @@ void CaixaCombinacao::AddItem(std::string texto, int itemData) {
 void CaixaCombinacao::Clear() {
     itens.clear();
     indice_ = -1;
+}
+
+void BarraRolagem::DefineValue(int v) {
+    v = std::clamp(v, 0, std::max(Max, 0));
+    if (v == Value) return;
+    Value = v;
+    if (Change) Change();
+}
+
+void BarraRolagem::DefineMax(int m) {
+    Max = m;
+    if (Value > std::max(Max, 0)) DefineValue(Max);
 }
 
 } // namespace tramelo

@@ -30,7 +30,7 @@ struct CaixaTexto {
 
     std::function<void()> Change;
 
-private:
+  private:
     std::string texto_;
 };
 
@@ -57,7 +57,7 @@ struct CaixaCombinacao {
 
     std::function<void()> Click;
 
-private:
+  private:
     int indice_ = -1;
 };
 
@@ -68,6 +68,43 @@ struct Faixa {
     bool Enabled = true;
     bool Visible = true;
     int Top = 0; // pixels inside the sliding strip
+};
+
+// A frame or picture box that holds other controls.
+struct Painel {
+    bool Enabled = true;
+    bool Visible = true;
+    int Top = 0;
+    int Height = 0;
+    bool corAtiva = false; // painted in the active title bar colour, else the inactive one
+};
+
+// A vertical scroll bar counting in rows. Value and Max set through the two
+// setters run Change, as the platform's bar does; a value outside 0..Max is
+// brought to the nearest end rather than refused, since a focus handler
+// mustn't stop on it.
+struct BarraRolagem {
+    bool Enabled = true;
+    int Value = 0;
+    int Max = 0;
+    int LargeChange = 1;
+    int SmallChange = 1;
+    int Top = 0;
+    int Height = 224;
+
+    void DefineValue(int v);
+    // A Max below the value takes the value with it.
+    void DefineMax(int m);
+
+    std::function<void()> Change;
+};
+
+// A menu entry of a window's menu bar.
+struct ItemMenu {
+    std::string Caption;
+    bool Enabled = true;
+    bool Checked = false;
+    bool Visible = true;
 };
 
 } // namespace tramelo

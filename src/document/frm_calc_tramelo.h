@@ -22,31 +22,15 @@ struct Linha {
     std::optional<CaixaCombinacao> cboDados;
 };
 
-struct Painel {
-    bool Enabled = true;
-    bool Visible = true;
-    int Top = 0;
-    int Height = 0;
-    bool corAtiva = false; // picMenu: painted in the active title bar colour
-};
-
-struct BarraRolagem {
-    bool Enabled = true;
-    int Value = 0;
-    int Max = 0;
-    int LargeChange = 1;
-    int SmallChange = 1;
-    int Top = 0;
-    int Height = 224;
-};
-
 // Row indices that exist, in display order of the design.
 inline constexpr std::array<int, 18> LinhasDados = {2,  4,  5,  8,  9,  10, 12, 14, 16,
-                                                     17, 18, 19, 20, 25, 26, 27, 28, 29};
+                                                    17, 18, 19, 20, 25, 26, 27, 28, 29};
 
 class FrmCalcTramelo {
-public:
-    FrmCalcTramelo(); // builds the controls as designed; Form_Load does the rest
+  public:
+    // Builds the controls as designed and ties their events to the handlers;
+    // Form_Load does the rest.
+    FrmCalcTramelo();
     FrmCalcTramelo(const FrmCalcTramelo&) = delete;
     FrmCalcTramelo& operator=(const FrmCalcTramelo&) = delete;
 
@@ -57,7 +41,7 @@ public:
     // Members, in declaration order.
     std::string ArquivoCalculo;
     bool Alterado() const { return alterado_; }
-    void DefineAlterado(bool v); // stores, and mirrors the state onto the bars when it changes
+    void DefineAlterado(bool v); // stores, and runs AtualizaBarra when it changes
     bool CarregandoArquivo = false;
     bool ArquivoExiste = false;
     std::string TextoData, TextoOS, TextoCliente;
@@ -92,6 +76,14 @@ public:
     Painel picLista, picMove, picMenu;
     BarraRolagem barraV;
 
+    // The entries of this window's menu bar that follow the window's state.
+    ItemMenu mnuArquivoSalvar{"&Salvar"}, mnuArquivoSalvarComo{"Salvar &como..."},
+        mnuArquivoSalvarTodos{"Salvar &todos"};
+    ItemMenu mnuExibirBarraPadrao{"Botões &padrão", true, true},
+        mnuExibirBarraCalculo{"Barra de &calculo", true, true},
+        mnuExibirEtiqueta{"Etiquetas de texto", true, true},
+        mnuExibirStatusBar{"Barra de &status", true, true};
+
     std::array<std::optional<Linha>, 31> linhas;
     // The control that has the focus, by name: "txtDados(9)", "txtTag", ...
     std::string foco;
@@ -102,7 +94,7 @@ public:
     CaixaTexto* txtDados(int i);
     CaixaCombinacao* cboDados(int i);
 
-private:
+  private:
     bool alterado_ = false;
 };
 

@@ -1,0 +1,105 @@
+#include "document/entrada.h"
+
+#include "document/campos.h"
+#include "document/frm_calc_tramelo.h"
+#include "plataforma/numero.h"
+#include "shell/barras.h"
+#include "shell/mod_base.h"
+
+namespace tramelo {
+namespace {
+
+constexpr int TeclaRetrocesso = 8;
+constexpr int TeclaEnter = 13;
+constexpr int TeclaPonto = 46;
+constexpr int TeclaVirgula = 44;
+
+// The expansion of stainless steel 304/316 from 20 ºC: 3,4E-05 per ºC.
+double FatorAcoInox(double temperatura) {
+    return (temperatura - 20.0) * 3.4e-05 + 1.0;
+}
+
+// Brings a row into sight: above the view it becomes the first row in sight,
+// below it the last.
+void MostraFaixa(FrmCalcTramelo& f, const Faixa* p) {
+    if (!p) return;
+    int r = p->Top / AlturaLinha;
+    int V = f.barraV.Value;
+    if (r <= V)
+        f.barraV.DefineValue(r);
+    else if (r >= V + LinhasVisiveis)
+        f.barraV.DefineValue(r - LinhasVisiveis + 1);
+}
+
+} // namespace
+
+int txtDados_KeyPress(FrmCalcTramelo&, int, int KeyAscii) {
+    if (KeyAscii == TeclaRetrocesso) return KeyAscii;
+    if (KeyAscii == TeclaEnter) return 0;
+    if (KeyAscii == TeclaPonto) return TeclaVirgula;
+    // "*", "+", ",", "-", ".", "/" and the digits.
+    if (KeyAscii >= 42 && KeyAscii <= 57) return KeyAscii;
+    return 0;
+}
+
+void txtDados_KeyUp(FrmCalcTramelo& f, int Index, int KeyCode, int) {
+    if (KeyCode == TeclaEnter) txtDados_DblClick(f, Index);
+}
+
+void txtDados_Change(FrmCalcTramelo& f, int Index) {
+    f.DefineAlterado(true);
+    if (Index != 9) return;
+    CaixaCombinacao* material = f.cboDados(29);
+    if (!material || material->ListIndex() != 0) return;
+    // Emptied first, so that a row 9 that isn't a number leaves no stale factor.
+    CaixaTexto* fator = f.txtDados(29);
+    if (fator) fator->DefineTexto("");
+    CaixaTexto* temperatura = f.txtDados(9);
+    std::optional<double> T = temperatura ? LeNumero(temperatura->Text()) : std::nullopt;
+    if (!T) return;
+    if (fator) fator->DefineTexto(NumeroParaTexto(FatorAcoInox(*T)));
+}
+
+void txtTag_Change(FrmCalcTramelo& f) {
+    f.DefineAlterado(true);
+}
+
+void txtDados_GotFocus(FrmCalcTramelo& f, int Index) {
+    mdiMenu().tbCalculo.Habilita("Calculadora", true);
+    MostraFaixa(f, f.picDados(Index));
+    if (CaixaTexto* t = f.txtDados(Index)) SelecionaTexto(*t);
+}
+
+void txtDados_LostFocus(FrmCalcTramelo& f, int Index) {
+    mdiMenu().tbCalculo.Habilita("Calculadora", false);
+    // The general format of a text with no format string is the text itself;
+    // setting it back runs nothing.
+    if (CaixaTexto* t = f.txtDados(Index)) t->DefineTexto(t->Text());
+}
+
+void cboDados_GotFocus(FrmCalcTramelo& f, int Index) {
+    MostraFaixa(f, f.picDados(Index));
+}
+
+void cboMassaDensidade_GotFocus(FrmCalcTramelo& f) {
+    MostraFaixa(f, f.picDados(1));
+}
+
+void txtTag_GotFocus(FrmCalcTramelo& f) {
+    if (f.barraV.Value >= 1) f.barraV.DefineValue(0);
+    SelecionaTexto(f.txtTag);
+}
+
+void barraV_Change(FrmCalcTramelo& f) {
+    f.picMove.Top = f.barraV.Top - f.barraV.Value * AlturaLinha;
+}
+
+void barraV_Scroll(FrmCalcTramelo& f) {
+    barraV_Change(f);
+}
+
+void txtDados_DblClick(FrmCalcTramelo& f, int Index) {
+    if (AbreCalculadora) AbreCalculadora(f, Index);
+}
+
+} // namespace tramelo
