@@ -21,6 +21,19 @@ std::string ShowSave(ConfiguraDialogo& d) {
     return d.FileName;
 }
 
+void DoEvents() {
+    if (Sistema* s = ambiente().sistema) s->DoEvents();
+}
+
+void MousePointer(int forma) {
+    if (Sistema* s = ambiente().sistema) s->MousePointer(forma);
+}
+
+bool AbreNoSistema(const std::string& caminho) {
+    Sistema* s = ambiente().sistema;
+    return s && s->Abre(caminho);
+}
+
 Momento Agora() {
     if (Relogio* r = ambiente().relogio) return r->Agora();
     static RelogioSistema sistema;

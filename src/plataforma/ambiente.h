@@ -6,6 +6,7 @@
 #include "plataforma/caixas.h"
 #include "plataforma/dialogos.h"
 #include "plataforma/relogio.h"
+#include "plataforma/sistema.h"
 
 #include <string>
 
@@ -15,7 +16,13 @@ struct Ambiente {
     Caixas* caixas = nullptr;
     Relogio* relogio = nullptr; // the system clock when none is installed
     Dialogos* dialogos = nullptr; // none: every dialog is cancelled
+    Sistema* sistema = nullptr;   // none: no events to run, nothing opens
 };
+
+// Through the installed Sistema; without one they do nothing.
+void DoEvents();
+void MousePointer(int forma);
+bool AbreNoSistema(const std::string& caminho);
 
 // The open and save dialogs: the chosen name, or failure 32755 on cancel.
 std::string ShowOpen(ConfiguraDialogo& d);

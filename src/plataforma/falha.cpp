@@ -12,6 +12,7 @@ std::string DescricaoFalha(int numero) {
     case 13: return "Tipos incompatíveis";
     case 52: return "Nome ou número de arquivo incorreto";
     case 53: return "Arquivo não encontrado";
+    case 54: return "Modo de arquivo incorreto";
     case 55: return "Arquivo já aberto";
     case 57: return "Erro de E/S do dispositivo";
     case 61: return "Disco cheio";
