@@ -2,6 +2,8 @@
 // fields with their labels, the column header, and the window's shown state.
 #pragma once
 
+#include "document/controles.h"
+
 #include <string>
 #include <vector>
 
@@ -29,6 +31,13 @@ struct FrmRelatorio {
     std::string lblMenu;
     // The control that has the focus, by name ("txtData", ...).
     std::string foco;
+
+    // The "Exibir" ticks of this window's menu, copied from the frame on
+    // activation; the frame's toggles keep them in step.
+    ItemMenu mnuExibirBarraPadrao{"Botões &padrão", true, true};
+    ItemMenu mnuExibirBarraCalculo{"Barra de &calculo", true, true};
+    ItemMenu mnuExibirEtiqueta{"&Etiquetas de texto", true, true};
+    ItemMenu mnuExibirStatusBar{"Barra de &status", true, true};
 
     void Show() { Visible = true; }
     void Hide() { Visible = false; }

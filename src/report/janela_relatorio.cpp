@@ -1,0 +1,30 @@
+#include "report/janela_relatorio.h"
+
+#include "report/frm_relatorio.h"
+#include "shell/barras.h"
+
+namespace tramelo {
+
+void Relatorio_Activate(FrmRelatorio& r) {
+    MdiMenu& m = mdiMenu();
+    m.tbCalculo.Habilita("Imprimir", true);
+    m.tbCalculo.Habilita("Exportar", true);
+    r.mnuExibirStatusBar.Checked = m.sbStatusBar.Visible;
+    r.mnuExibirBarraPadrao.Checked = m.cobBarra.Bands(1).Visible;
+    r.mnuExibirBarraCalculo.Checked = m.cobBarra.Bands(2).Visible;
+    if (AtualizaMRUDoRelatorio) AtualizaMRUDoRelatorio(r);
+}
+
+void Relatorio_Deactivate(FrmRelatorio&) {
+    MdiMenu& m = mdiMenu();
+    m.tbCalculo.Habilita("Imprimir", false);
+    m.tbCalculo.Habilita("Exportar", false);
+}
+
+bool Relatorio_QueryUnload(FrmRelatorio& r, bool fechadoPeloUsuario) {
+    if (!fechadoPeloUsuario) return false;
+    r.Hide();
+    return true;
+}
+
+} // namespace tramelo

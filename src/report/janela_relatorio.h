@@ -1,0 +1,26 @@
+// The report window's own events: what it switches on the frame while it is
+// active, and its close that only hides it.
+#pragma once
+
+#include <functional>
+
+namespace tramelo {
+
+struct FrmRelatorio;
+
+// Enables "Imprimir" and "Exportar" on the frame's calculation toolbar,
+// copies the frame's "Exibir" ticks into this window's menu, and refreshes
+// its recent-files menu.
+void Relatorio_Activate(FrmRelatorio& r);
+// Deactivation and unload disable the same two buttons.
+void Relatorio_Deactivate(FrmRelatorio& r);
+
+// A user's close (close box, system menu, "Fechar") hides the window; its
+// lines stay. Returns true: the close is cancelled.
+bool Relatorio_QueryUnload(FrmRelatorio& r, bool fechadoPeloUsuario);
+
+// The refresh of a report window's recent-files menu, installed by the
+// recent files; with none installed that step is passed over.
+inline std::function<void(FrmRelatorio&)> AtualizaMRUDoRelatorio;
+
+} // namespace tramelo
