@@ -8,6 +8,9 @@ namespace tramelo {
 
 FrmCalcTramelo::FrmCalcTramelo() : Relatorio(std::make_unique<FrmRelatorio>()) {
     txtTag.MaxLength = 20;
+    // The selections are made in order: orifice kind, fluid, tap position.
+    lblFluido.Enabled = cboFluido.Enabled = false;
+    lblTomada.Enabled = cboTomada.Enabled = false;
     cboMassaDensidade.AddItem("Massa Específica (Kg/m³)");
     cboMassaDensidade.AddItem("Densidade Relativa");
     linhas[0].emplace();
