@@ -17,10 +17,6 @@ const char* TextoBooleano(bool v) {
     return v ? "True" : "False";
 }
 
-bool EmUso(const Faixa* p) {
-    return p && p->Tag == "True";
-}
-
 void PoeEmUso(FrmCalcTramelo& f, std::initializer_list<int> linhas) {
     for (int i : linhas)
         CampoDados(f, i, true);
@@ -55,6 +51,11 @@ void PosicionaFaixa(Faixa& p, int posicao) {
 }
 
 } // namespace
+
+bool LinhaEmUso(FrmCalcTramelo& f, int Index) {
+    const Faixa* p = f.picDados(Index);
+    return p && p->Tag == TextoBooleano(true);
+}
 
 void CampoDados(FrmCalcTramelo& f, int Index, bool Habilitado) {
     if (Faixa* p = f.picDados(Index)) {
@@ -149,8 +150,8 @@ void OrganizaCampos(FrmCalcTramelo& f) {
     f.cboMassaDensidade.Tag = "0";
     int K = 4;
     for (int i = 6; i <= 31; ++i) {
-        Faixa* p = i <= 30 ? f.picDados(i) : nullptr;
-        if (EmUso(p)) {
+        Faixa* p = f.picDados(i);
+        if (LinhaEmUso(f, i)) {
             if (f.cboMassaDensidade.Tag == "0" && i >= 17) {
                 f.cboMassaDensidade.Tag = "1";
                 if (Faixa* modo = f.picDados(1)) PosicionaFaixa(*modo, K);

@@ -34,10 +34,6 @@ std::unique_ptr<FrmCalcTramelo> Escolhido(int fluido) {
     return f;
 }
 
-bool EmUso(FrmCalcTramelo& f, int i) {
-    return f.picDados(i)->Tag == "True";
-}
-
 TEST(DocumentCampos, LeiauteDosTresFluidos) {
     // Row 1 is the density mode, placed just above the first row in use from 17 on.
     struct Caso {
@@ -65,7 +61,7 @@ TEST(DocumentCampos, LeiauteDosTresFluidos) {
         for (int i = 6; i <= 30; ++i) {
             if (!f->picDados(i)) continue;
             bool esperado = std::count(c.ordem.begin(), c.ordem.end(), i) > 0;
-            EXPECT_EQ(EmUso(*f, i), esperado) << i;
+            EXPECT_EQ(LinhaEmUso(*f, i), esperado) << i;
             EXPECT_EQ(f->picDados(i)->Visible, esperado) << i;
         }
         EXPECT_EQ(f->picMove.Height, c.K * 25);
@@ -128,7 +124,7 @@ TEST(DocumentCampos, TrocaDeFluidoMantemListaDeVazaoPeloTamanho) {
         EXPECT_EQ(f->cboDados(2)->ListIndex(), c.indiceVazao);
         EXPECT_EQ(f->cboDados(2)->ListCount(), c.itensVazao);
         for (int i : {8, 10, 17, 25})
-            EXPECT_EQ(EmUso(*f, i), c.emUso.count(i) > 0) << i;
+            EXPECT_EQ(LinhaEmUso(*f, i), c.emUso.count(i) > 0) << i;
     }
 }
 
@@ -138,7 +134,7 @@ TEST(DocumentCampos, UnidadeDeVazaoLigaLinhasSemReorganizar) {
     const int topo8 = f->picDados(8)->Top, topo25 = f->picDados(25)->Top;
     f->cboDados(2)->DefineListIndex(2); // T/h
     for (int i : {8, 10, 17, 25}) {
-        EXPECT_FALSE(EmUso(*f, i)) << i;
+        EXPECT_FALSE(LinhaEmUso(*f, i)) << i;
         EXPECT_FALSE(f->txtDados(i)->Enabled) << i;
         EXPECT_TRUE(f->picDados(i)->Visible) << i; // stays in place, greyed
     }
@@ -146,7 +142,7 @@ TEST(DocumentCampos, UnidadeDeVazaoLigaLinhasSemReorganizar) {
     EXPECT_EQ(f->picDados(25)->Top, topo25);
     f->cboDados(2)->DefineListIndex(0);
     for (int i : {8, 10, 17, 25})
-        EXPECT_TRUE(EmUso(*f, i) && f->txtDados(i)->Enabled) << i;
+        EXPECT_TRUE(LinhaEmUso(*f, i) && f->txtDados(i)->Enabled) << i;
 
     // By the unit's number, not its position: steam's first unit is Kg/h.
     auto vapor = Escolhido(2);
@@ -154,8 +150,8 @@ TEST(DocumentCampos, UnidadeDeVazaoLigaLinhasSemReorganizar) {
         CampoDados(*vapor, 8, true);
         CampoDados(*vapor, 17, true);
         vapor->cboDados(2)->DefineListIndex(k);
-        EXPECT_FALSE(EmUso(*vapor, 8)) << k;
-        EXPECT_FALSE(EmUso(*vapor, 17)) << k;
+        EXPECT_FALSE(LinhaEmUso(*vapor, 8)) << k;
+        EXPECT_FALSE(LinhaEmUso(*vapor, 17)) << k;
     }
 }
 
@@ -165,7 +161,7 @@ TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     CampoDados(*f, 3, true); // no such row
     CampoDados(*f, 30, true);
     CampoDados(*f, 25, true); // no unit list
-    EXPECT_TRUE(EmUso(*f, 25));
+    EXPECT_TRUE(LinhaEmUso(*f, 25));
     EXPECT_TRUE(f->lblDados(25)->Enabled && f->txtDados(25)->Enabled);
 
     // A row out of use keeps its text for when it comes back.
@@ -178,7 +174,7 @@ TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     // On a disabled list a row goes in use with its controls off.
     Lista(*f, false);
     CampoDados(*f, 16, true);
-    EXPECT_TRUE(EmUso(*f, 16));
+    EXPECT_TRUE(LinhaEmUso(*f, 16));
     EXPECT_TRUE(f->picDados(16)->Enabled);
     EXPECT_FALSE(f->lblDados(16)->Enabled || f->txtDados(16)->Enabled || f->cboDados(16)->Enabled);
 }
