@@ -1,5 +1,7 @@
 #include "document/frm_calc_tramelo.h"
 
+#include <cstdlib>
+
 #include "document/campos.h"
 #include "document/entrada.h"
 #include "document/selecoes.h"
@@ -74,6 +76,14 @@ CaixaCombinacao* FrmCalcTramelo::cboDados(int i) {
     if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
     auto& o = linhas[static_cast<size_t>(i)]->cboDados;
     return o ? &*o : nullptr;
+}
+
+int FrmCalcTramelo::IndiceControleAtivo() const {
+    for (const char* prefixo : {"txtDados(", "cboDados("}) {
+        const std::string p = prefixo;
+        if (foco.rfind(p, 0) == 0) return std::atoi(foco.c_str() + p.size());
+    }
+    return -1;
 }
 
 } // namespace tramelo

@@ -87,6 +87,9 @@ class FrmCalcTramelo {
     std::array<std::optional<Linha>, 31> linhas;
     // The control that has the focus, by name: "txtDados(9)", "txtTag", ...
     std::string foco;
+    // The Index of the control that has the focus when it is a data row's
+    // ("txtDados(9)", "cboDados(5)"), else -1.
+    int IndiceControleAtivo() const;
 
     // A row's controls; nullptr where the row or the control doesn't exist.
     Faixa* picDados(int i);

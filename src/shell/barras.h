@@ -76,6 +76,7 @@ struct MdiMenu {
     std::string Caption = "Tramelo";
     int Left = 60, Top = 630, Width = 6495, Height = 5730; // client area, twips
     int WindowState = 0;
+    bool Enabled = true; // off while a longer action runs (HabilitaMenu)
     int EstadoAnterior = 0;
 
     BarraCool cobBarra;
