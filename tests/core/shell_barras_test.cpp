@@ -60,23 +60,6 @@ TEST(ShellBarras, EtiquetasVoltamDaTag) {
     EXPECT_EQ(m.tbPadrao.Botao("Novo")->Caption, "Novo");
 }
 
-TEST(ShellBarras, BandasEStatusNoDesenho) {
-    MdiMenu m;
-    EXPECT_EQ(m.Caption, "Tramelo");
-    const Banda& b1 = m.cobBarra.Bands(1);
-    const Banda& b2 = m.cobBarra.Bands(2);
-    EXPECT_EQ((std::array{b1.MinWidth, b1.MinHeight, b1.Width}), (std::array{3000, 540, 7695}));
-    EXPECT_EQ((std::array{b2.MinWidth, b2.MinHeight, b2.Width}), (std::array{4215, 540, 135}));
-    EXPECT_TRUE(m.cobBarra.Visible && b1.Visible && b2.Visible && m.sbStatusBar.Visible);
-    EXPECT_FALSE(b1.NewRow || b2.NewRow);
-    EXPECT_EQ(m.sbStatusBar.Panels[0].Text, "Status");
-    EXPECT_EQ(m.sbStatusBar.Panels[1].tipo, TipoPainel::Data);
-    EXPECT_EQ(m.sbStatusBar.Panels[2].Width, 2540);
-    for (const ItemMenu* i : {&m.mnuExibirBarraPadrao, &m.mnuExibirBarraCalculo,
-                              &m.mnuExibirEtiqueta, &m.mnuExibirStatusBar})
-        EXPECT_TRUE(i->Checked) << i->Caption;
-}
-
 TEST(ShellBarras, AtualizaDoMenu) {
     MdiMenu& m = mdiMenu();
     m = MdiMenu{};
