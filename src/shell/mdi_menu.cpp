@@ -1,0 +1,187 @@
+#include "shell/mdi_menu.h"
+
+#include "document/campos.h"
+#include "document/ciclo.h"
+#include "document/entrada.h"
+#include "document/frm_calc_tramelo.h"
+#include "document/janelas.h"
+#include "plataforma/ambiente.h"
+#include "report/frm_relatorio.h"
+#include "shell/barras.h"
+#include "shell/mod_base.h"
+#include "sizing/calculo.h"
+
+namespace tramelo {
+namespace {
+
+// The same tick on the active child's copy of the menu; a child without it
+// is passed over.
+void MarcaNoFilho(ItemMenu FrmCalcTramelo::*noCalculo, ItemMenu FrmRelatorio::*noRelatorio,
+                  bool marcado) {
+    FilhoAtivo& a = filhoAtivo();
+    if (a.calculo) (a.calculo->*noCalculo).Checked = marcado;
+    else if (a.relatorio) (a.relatorio->*noRelatorio).Checked = marcado;
+}
+
+// Band B toggled, O the other one: the coolbar goes when its last band does.
+void AlternaBanda(int b, int o, ItemMenu MdiMenu::*item, ItemMenu FrmCalcTramelo::*noCalculo,
+                  ItemMenu FrmRelatorio::*noRelatorio) {
+    MdiMenu& m = mdiMenu();
+    if (m.cobBarra.Visible) {
+        if (!m.cobBarra.Bands(o).Visible) m.cobBarra.Visible = false;
+    } else {
+        m.cobBarra.Visible = true;
+    }
+    m.cobBarra.Bands(b).Visible = !m.cobBarra.Bands(b).Visible;
+    (m.*item).Checked = m.cobBarra.Bands(b).Visible;
+    MarcaNoFilho(noCalculo, noRelatorio, (m.*item).Checked);
+    AjustaBarra();
+}
+
+} // namespace
+
+FilhoAtivo& filhoAtivo() {
+    static FilhoAtivo a;
+    return a;
+}
+
+void InformaFalhaDeCalculo(int numero, const std::string& descricao) {
+    InformaErro(ErroExecucao{numero, descricao});
+}
+
+void mnuArquivoNew_Click() { AbreCalculo(false, std::string()); }
+
+void mnuArquivoOpen_Click() { AbreCalculo(true, std::string()); }
+
+void mnuArquivoFecharTodos_Click() {
+    HabilitaMenu(false);
+    // A calculation that refuses to close is asked again, until it goes.
+    for (;;) {
+        DoEvents();
+        auto& lista = Calculos();
+        if (lista.empty()) break;
+        DescarregaCalculo(*lista.front());
+    }
+    HabilitaMenu(true);
+}
+
+void mnuExibirBarraPadrao_Click() {
+    AlternaBanda(1, 2, &MdiMenu::mnuExibirBarraPadrao, &FrmCalcTramelo::mnuExibirBarraPadrao,
+                 &FrmRelatorio::mnuExibirBarraPadrao);
+}
+
+void mnuExibirBarraCalculo_Click() {
+    AlternaBanda(2, 1, &MdiMenu::mnuExibirBarraCalculo, &FrmCalcTramelo::mnuExibirBarraCalculo,
+                 &FrmRelatorio::mnuExibirBarraCalculo);
+}
+
+void mnuExibirEtiqueta_Click() {
+    MdiMenu& m = mdiMenu();
+    m.mnuExibirEtiqueta.Checked = !m.mnuExibirEtiqueta.Checked;
+    MarcaNoFilho(&FrmCalcTramelo::mnuExibirEtiqueta, &FrmRelatorio::mnuExibirEtiqueta,
+                 m.mnuExibirEtiqueta.Checked);
+    m.tbPadrao.MostraEtiquetas(m.mnuExibirEtiqueta.Checked);
+    m.tbCalculo.MostraEtiquetas(m.mnuExibirEtiqueta.Checked);
+    AjustaBarra();
+}
+
+void mnuExibirStatusBar_Click() {
+    MdiMenu& m = mdiMenu();
+    m.sbStatusBar.Visible = !m.sbStatusBar.Visible;
+    m.mnuExibirStatusBar.Checked = m.sbStatusBar.Visible;
+    MarcaNoFilho(&FrmCalcTramelo::mnuExibirStatusBar, &FrmRelatorio::mnuExibirStatusBar,
+                 m.mnuExibirStatusBar.Checked);
+}
+
+void AjustaBarra() {
+    MdiMenu& m = mdiMenu();
+    MedidasBarras medidas = MedeBarras ? MedeBarras() : MedidasBarras{};
+    Banda& b1 = m.cobBarra.Bands(1);
+    Banda& b2 = m.cobBarra.Bands(2);
+    if (m.mnuExibirEtiqueta.Checked) {
+        b1.MinHeight = medidas.alturaPadrao;
+        b2.MinHeight = b1.MinHeight;
+        b1.MinWidth = medidas.larguraPadrao;
+        b2.MinWidth = medidas.larguraCalculo;
+    } else {
+        b1.MinWidth = 1600;
+        b1.Width = 1600;
+        b2.MinWidth = 1500;
+        b2.Width = 1500;
+        b1.MinHeight = medidas.alturaPadrao;
+        b2.MinHeight = b1.MinHeight;
+    }
+}
+
+void mnuExibirRelatorio_Click() {
+    try {
+        CriaPasta(modBase().PastaRelatorios);
+        AbreNoSistema(modBase().PastaRelatorios);
+    } catch (const Falha&) {
+    }
+}
+
+void mnuAjudaConteudo_Click() {
+    // The program is built with no help file.
+    MsgBox("Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de Ajuda "
+           "associado à este projeto.",
+           vbInformation, mdiMenu().Caption);
+}
+
+void mnuAjudaComoUsar_Click() {
+    MsgBox("Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de Ajuda "
+           "associado à este projeto.",
+           vbInformation, mdiMenu().Caption);
+}
+
+void HabilitaMenu(bool Habilitado) {
+    DoEvents();
+    MousePointer(Habilitado ? vbDefault : vbHourglass);
+    mdiMenu().Enabled = Habilitado;
+    DoEvents();
+}
+
+void tbPadrao_ButtonClick(std::string_view key) {
+    DoEvents();
+    FilhoAtivo& a = filhoAtivo();
+    if (key == "Novo") {
+        HabilitaMenu(false);
+        DoEvents();
+        mnuArquivoNew_Click();
+        DoEvents();
+        HabilitaMenu(true);
+    } else if (key == "Abrir") {
+        mnuArquivoOpen_Click();
+    } else if (key == "Salvar") {
+        if (a.calculo) mnuArquivoSalvar_Click(*a.calculo);
+    } else if (key == "Imprimir") {
+        if (a.relatorio && ImprimeRelatorio) ImprimeRelatorio(*a.relatorio);
+    } else if (key == "Sair") {
+        if (SairDoPrograma) SairDoPrograma();
+    }
+}
+
+void tbCalculo_ButtonClick(std::string_view key) {
+    // A button on a child without the member does nothing.
+    FilhoAtivo a = filhoAtivo();
+    try {
+        if (key == "Calcular") {
+            if (a.calculo && a.calculo->cmdCalcular.Enabled) {
+                ResultadoCalculo r = cmdCalcular_Click(*a.calculo);
+                if (r.fim == FimCalculo::Falhou) InformaFalhaDeCalculo(r.erro.numero, r.erro.descricao);
+            }
+        } else if (key == "Calculadora") {
+            if (a.calculo) {
+                int i = a.calculo->IndiceControleAtivo();
+                if (i >= 0) txtDados_DblClick(*a.calculo, i);
+            }
+        } else if (key == "Imprimir") {
+            if (a.relatorio && ImprimeRelatorio) ImprimeRelatorio(*a.relatorio);
+        } else if (key == "Exportar") {
+            if (a.relatorio && ExportaRelatorio) ExportaRelatorio(*a.relatorio);
+        }
+    } catch (const Falha&) {
+    }
+}
+
+} // namespace tramelo

@@ -1,0 +1,41 @@
+// The last four calculation files, offered in the "Arquivos recentes" menu of
+// every window. The list lives once; each window's menu is a view of it.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace tramelo {
+
+// Index 0 is the latest. Empty entries only follow used ones.
+std::array<std::string, 4>& FilesMRU();
+
+// Puts a file first; a file already listed moves up (case is ignored), the
+// last entry drops out. Never fails.
+void AdicionaMRU(const std::string& Arquivo);
+
+struct EntradaMenu {
+    std::string Caption;
+    bool Visible = false;
+    bool Enabled = true;
+};
+
+// A window's recent-files menu entries.
+struct MenuRecentes {
+    std::array<EntradaMenu, 4> mnuArquivoMRU;
+    EntradaMenu mnuArquivoMRUVazio{"Vazio", true, false};
+};
+
+// Rewrites a window's entries from the list: "&1 " and the path, shortened
+// when it has 31 characters or more.
+void AtualizaMRU(MenuRecentes& Janela);
+
+// The shortening of a long path for a menu caption.
+std::string EncurtaCaminho(const std::string& F);
+
+// Read at the frame's load from section "FilesMRU", values " 1" to " 4";
+// stored at each attempt to close the frame, up to the first empty entry.
+void CarregaMRU();
+void GravaMRU();
+
+} // namespace tramelo
