@@ -16,25 +16,16 @@ long& ContadorCalculos();
 FrmCalcTramelo* AbreCalculo(bool Abrir, std::string& Arquivo);
 FrmCalcTramelo* AbreCalculo(bool Abrir, const std::string& Arquivo);
 
-// File name from folder and caption, the caption from the file name, the
-// buttons, and the recent-files menu.
-void Atualiza(FrmCalcTramelo& f);
-
 // Offers to save: -1 nothing to save, 6 or 7 the answer, 2 stop the closing.
 short TrameloFecha(FrmCalcTramelo& f);
 
 // Empties the document.
 void TrameloLimpa(FrmCalcTramelo& f);
 
-void Form_Activate(FrmCalcTramelo& f);
-void Form_Deactivate(FrmCalcTramelo& f);
-// Returns true to cancel the closing.
+// The header check first, then the question about unsaved changes. Returns
+// true to cancel the closing.
 bool Form_QueryUnload(FrmCalcTramelo& f);
 void Form_Unload(FrmCalcTramelo& f);
-
-// The report's header strings back into the document when they differ (and
-// the report was ever initialised): the document is then changed.
-void ConfereCabecalho(FrmCalcTramelo& f);
 
 // Menu entries particular to a calculation window.
 void mnuArquivoSalvar_Click(FrmCalcTramelo& f);
