@@ -1,0 +1,110 @@
+// tramelo-calc run as a user runs it: the sample files, JSON, and each exit
+// status.
+#include "pasta_temporaria.h"
+
+#include "plataforma/cp1252.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <string>
+#include <sys/wait.h>
+
+namespace tramelo::teste {
+namespace {
+
+struct Saida {
+    int status = -1;
+    std::string saida, erros;
+};
+
+class ShellLote : public ::testing::Test {
+protected:
+    // Runs the tool with its data folder in a temporary place.
+    Saida Executa(const std::string& argumentos) {
+        const std::string erros = pasta / "erros.txt";
+        const std::string comando = "XDG_DATA_HOME=" + pasta.str() + " XDG_CONFIG_HOME=" + pasta.str() +
+                                    " " TRAMELO_CALC " " + argumentos + " 2>" + erros;
+        Saida s;
+        FILE* p = popen(comando.c_str(), "r");
+        char buf[4096];
+        for (size_t n; (n = fread(buf, 1, sizeof buf, p)) > 0;) s.saida.append(buf, n);
+        int r = pclose(p);
+        s.status = WIFEXITED(r) ? WEXITSTATUS(r) : -1;
+        s.erros = LeBytes(erros);
+        return s;
+    }
+    static std::string Exemplo(const std::string& nome) { return std::string(TRAMELO_EXEMPLOS) + "/" + nome; }
+
+    PastaTemporaria pasta;
+};
+
+TEST_F(ShellLote, ExemplosDeLiquidoGasEVapor) {
+    Saida s = Executa(Exemplo("agua.trl") + " " + Exemplo("ar.trl") + " " + Exemplo("vapor.trl"));
+    EXPECT_EQ(s.status, 0) << s.erros;
+    // Three exports, one empty line between them.
+    EXPECT_EQ(s.saida.find("================================= Data Sheet ================================="), 0u);
+    EXPECT_NE(s.saida.find("\n\n================================= Data Sheet"), std::string::npos);
+    EXPECT_NE(s.saida.find("Diâmetro do orifício _____________ 61,83 "), std::string::npos);
+    EXPECT_NE(s.saida.find("Cliente..........: Usina Norte\n"), std::string::npos);
+    EXPECT_NE(s.saida.find("Fluido utilizado _________________ Vapor\n"), std::string::npos);
+    EXPECT_EQ(s.saida.find('\r'), std::string::npos);
+    // The material prompt of the gas file, answered empty, on standard error.
+    EXPECT_EQ(s.erros, "Material da placa: Digite o nome do material utilizado\n");
+}
+
+TEST_F(ShellLote, Json) {
+    Saida s = Executa("--json " + Exemplo("agua.trl") + " " + pasta / "falta.trl");
+    EXPECT_EQ(s.status, 2);
+    auto j = nlohmann::json::parse(s.saida);
+    ASSERT_EQ(j.size(), 2u);
+    EXPECT_EQ(j[0]["arquivo"], Exemplo("agua.trl"));
+    EXPECT_EQ(j[0]["concluido"], true);
+    EXPECT_TRUE(j[0]["erro"].is_null());
+    EXPECT_EQ(j[0]["linhas"][0], " ");
+    EXPECT_EQ(j[0]["linhas"][3], " Fluido utilizado _________________ Liqüido");
+    EXPECT_EQ(j[1]["concluido"], false);
+    ASSERT_EQ(j[1]["mensagens"].size(), 1u);
+    EXPECT_EQ(j[1]["mensagens"][0]["texto"], "Arquivo não encontrado");
+    EXPECT_EQ(j[1]["mensagens"][0]["titulo"], pasta / "falta.trl");
+}
+
+TEST_F(ShellLote, StatusDeSaida) {
+    const std::string cabeca = "\"\"\r\n\"\"\r\n\"\"\r\n0\r\n0,  \"Liqüido\"\r\n0\r\n\"t\"\r\n";
+    const std::string linhas = "2,\"50\",0\r\n4,\"102,26\",0\r\n5,\"25000\",0\r\n8,\"20\",0\r\n"
+                               "9,\"20\",0\r\n17,\"998\",0\r\n18,\"998\",0\r\n20,\"1\",0\r\n";
+    GravaBytes(pasta / "vazio.trl", ParaCp1252(cabeca + linhas)); // row 28 missing: empty
+    GravaBytes(pasta / "limite.trl", ParaCp1252(cabeca + "2,\"1\",0" + linhas.substr(8) + "28,\"0,8\",0\r\n"));
+    GravaBytes(pasta / "falha.trl", ParaCp1252(cabeca + linhas + "28,\"abc\",0\r\n"));
+    GravaBytes(pasta / "curto.trl", "\"\"\r\n\"\"\r\n");
+
+    Saida vazio = Executa(pasta / "vazio.trl");
+    EXPECT_EQ(vazio.status, 1);
+    EXPECT_EQ(vazio.erros,
+              "Todos os campos devem ser preenchidos: O campo 'Relação Vz.Usual/Vz.Max.' não foi preenchido\n");
+
+    // The limits question: "Não" goes on, "Sim" (--sim) ends the run.
+    EXPECT_EQ(Executa(pasta / "limite.trl").status, 0);
+    Saida sim = Executa("--sim " + pasta / "limite.trl");
+    EXPECT_EQ(sim.status, 1);
+    EXPECT_NE(sim.erros.find("Tramelo: Deseja alterar o dados para cálculo?"), std::string::npos);
+
+    Saida falha = Executa("--json " + pasta / "falha.trl");
+    EXPECT_EQ(falha.status, 2);
+    auto j = nlohmann::json::parse(falha.saida);
+    EXPECT_EQ(j[0]["erro"]["numero"], 13);
+    EXPECT_EQ(j[0]["erro"]["descricao"], "Tipos incompatíveis");
+
+    Saida curto = Executa("--json " + pasta / "curto.trl");
+    EXPECT_EQ(curto.status, 2);
+    EXPECT_EQ(nlohmann::json::parse(curto.saida)[0]["erro"]["numero"], 62);
+
+    Saida opcao = Executa("--nada " + pasta / "vazio.trl");
+    EXPECT_EQ(opcao.status, 64);
+    EXPECT_NE(opcao.erros.find("uso: tramelo-calc"), std::string::npos);
+    EXPECT_EQ(Executa("").status, 64);
+}
+
+} // namespace
+} // namespace tramelo::teste
