@@ -8,6 +8,7 @@
 #include "plataforma/ambiente.h"
 #include "report/frm_relatorio.h"
 #include "shell/barras.h"
+#include "shell/mdi_menu.h"
 #include "shell/mod_base.h"
 #include "sizing/catalogo.h"
 
@@ -43,6 +44,8 @@ FrmCalcTramelo& CarregaCalculo() {
 namespace {
 
 void Remove(FrmCalcTramelo& f) {
+    FilhoAtivo& a = filhoAtivo();
+    if (a.calculo == &f || a.relatorio == f.Relatorio.get()) a = {};
     if (JanelasCalculo* j = janelasCalculo()) j->Descarregada(f);
     auto& lista = Calculos();
     lista.erase(std::remove_if(lista.begin(), lista.end(),
@@ -85,6 +88,8 @@ FrmCalcTramelo* AbreCalculo(bool Abrir, std::string& Arquivo) {
             f->Caption = "Cálculo " + std::to_string(ContadorCalculos());
         }
         f->Visible = true;
+        // Shown on top, the new window is the active one.
+        AtivaFilho({f, nullptr});
         if (JanelasCalculo* j = janelasCalculo()) j->Mostra(*f);
         Atualiza(mdiMenu());
         return f;

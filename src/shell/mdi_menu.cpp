@@ -4,7 +4,9 @@
 #include "document/ciclo.h"
 #include "document/entrada.h"
 #include "document/frm_calc_tramelo.h"
+#include "document/janela.h"
 #include "document/janelas.h"
+#include "report/janela_relatorio.h"
 #include "plataforma/ambiente.h"
 #include "report/frm_relatorio.h"
 #include "shell/barras.h"
@@ -43,6 +45,16 @@ void AlternaBanda(int b, int o, ItemMenu MdiMenu::*item, ItemMenu FrmCalcTramelo
 FilhoAtivo& filhoAtivo() {
     static FilhoAtivo a;
     return a;
+}
+
+void AtivaFilho(FilhoAtivo novo) {
+    FilhoAtivo& a = filhoAtivo();
+    if (a.calculo == novo.calculo && a.relatorio == novo.relatorio) return;
+    if (a.calculo) Form_Deactivate(*a.calculo);
+    if (a.relatorio) Relatorio_Deactivate(*a.relatorio);
+    a = novo;
+    if (a.calculo) Form_Activate(*a.calculo);
+    if (a.relatorio) Relatorio_Activate(*a.relatorio);
 }
 
 void InformaFalhaDeCalculo(int numero, const std::string& descricao) {

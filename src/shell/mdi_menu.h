@@ -21,6 +21,11 @@ struct FilhoAtivo {
 };
 FilhoAtivo& filhoAtivo();
 
+// Makes a child the active one: the window that loses the activation runs
+// its deactivation first, then the new one its activation. Activating the
+// active child again does nothing.
+void AtivaFilho(FilhoAtivo novo);
+
 // The sizes the toolbars take on screen, in twips, for AjustaBarra; measured
 // by the desktop. Without it the design sizes stand.
 struct MedidasBarras {
