@@ -21,11 +21,12 @@ void Ocupado(FrmCalcTramelo& f, bool ocupado) {
     if (JanelasCalculo* j = janelasCalculo()) j->Ocupado(f, ocupado);
 }
 
-void AbreArquivoGravacao(FrmCalcTramelo& f) { canal1().AbreSaida(f.ArquivoCalculo); }
+void AbreArquivoGravacao(FrmCalcTramelo& f) {
+    canal1().AbreSaida(f.ArquivoCalculo);
+}
 
 // Runs one step whose failure is passed over, as the row loops want.
-template <typename F>
-void Passa(F&& passo) {
+template <typename F> void Passa(F&& passo) {
     try {
         passo();
     } catch (const Falha&) {
@@ -48,8 +49,8 @@ void TrameloSave(FrmCalcTramelo& f, bool SalvarComo, bool& Ok) {
             d.Filter = "Arquivo Tramelo (*.trl)|*.trl";
             d.Flags = FlagsArquivo;
             d.InitDir = barra == std::string::npos ? "" : f.ArquivoCalculo.substr(0, barra + 1);
-            d.FileName = barra == std::string::npos ? f.ArquivoCalculo
-                                                     : f.ArquivoCalculo.substr(barra + 1);
+            d.FileName =
+                barra == std::string::npos ? f.ArquivoCalculo : f.ArquivoCalculo.substr(barra + 1);
             f.ArquivoCalculo = ShowSave(d);
         }
         Ocupado(f, true);
@@ -125,7 +126,8 @@ void TrameloOpen(FrmCalcTramelo& f, const std::string& Arquivo) {
             f.cboFluido.DefineListIndex(NumeroDoItem(Left(c.LeItem(), 1)));
             std::string nomeFluido = c.LeItem();
             const int fluido = f.cboFluido.ListIndex();
-            if (fluido < 0 || fluido >= f.cboFluido.ListCount()) throw Falha(381, "Índice de matriz de propriedade inválido");
+            if (fluido < 0 || fluido >= f.cboFluido.ListCount())
+                throw Falha(381, "Índice de matriz de propriedade inválido");
             f.cboFluido.itens[static_cast<size_t>(fluido)].texto = nomeFluido;
             f.cboTomada.DefineListIndex(NumeroDoItem(c.LeItem()));
             f.txtTag.DefineTexto(c.LeItem());

@@ -48,9 +48,10 @@ void Remove(FrmCalcTramelo& f) {
     if (a.calculo == &f || a.relatorio == f.Relatorio.get()) a = {};
     if (JanelasCalculo* j = janelasCalculo()) j->Descarregada(f);
     auto& lista = Calculos();
-    lista.erase(std::remove_if(lista.begin(), lista.end(),
-                               [&](const std::unique_ptr<FrmCalcTramelo>& p) { return p.get() == &f; }),
-                lista.end());
+    lista.erase(
+        std::remove_if(lista.begin(), lista.end(),
+                       [&](const std::unique_ptr<FrmCalcTramelo>& p) { return p.get() == &f; }),
+        lista.end());
 }
 
 } // namespace
@@ -117,14 +118,16 @@ FrmCalcTramelo* AbreCalculo(bool Abrir, const std::string& Arquivo) {
 
 short TrameloFecha(FrmCalcTramelo& f) {
     if (!(f.Alterado() && f.txtTag.Enabled)) return -1;
-    short resposta = static_cast<short>(
-        MsgBox("Deseja salvar as alterações efetuadas neste Cálculo?",
-               vbYesNoCancel + vbQuestion, f.ArquivoCalculo));
+    short resposta =
+        static_cast<short>(MsgBox("Deseja salvar as alterações efetuadas neste Cálculo?",
+                                  vbYesNoCancel + vbQuestion, f.ArquivoCalculo));
     if (resposta == vbYes) {
         bool ok = false;
         TrameloSave(f, !f.ArquivoExiste, ok);
-        if (ok) f.DefineAlterado(false);
-        else resposta = vbCancel;
+        if (ok)
+            f.DefineAlterado(false);
+        else
+            resposta = vbCancel;
     }
     return resposta;
 }
@@ -147,7 +150,10 @@ void TrameloLimpa(FrmCalcTramelo& f) {
     }
     const Catalogo& cat = catalogo();
     for (int i = 0; i <= 2; ++i)
-        passa([&] { f.cboFluido.itens.at(static_cast<size_t>(i)).texto = cat.NomeFluidos[static_cast<size_t>(i + 1)]; });
+        passa([&] {
+            f.cboFluido.itens.at(static_cast<size_t>(i)).texto =
+                cat.NomeFluidos[static_cast<size_t>(i + 1)];
+        });
     passa([&] { f.cboTomada.DefineListIndex(-1); });
     passa([&] { f.cboTomada.DefineListIndex(-1); });
     passa([&] { f.cboFluido.DefineListIndex(-1); });
@@ -181,6 +187,8 @@ void mnuArquivoSalvarComo_Click(FrmCalcTramelo& f) {
     TrameloSave(f, true, ok);
 }
 
-bool mnuArquivoFechar_Click(FrmCalcTramelo& f) { return DescarregaCalculo(f); }
+bool mnuArquivoFechar_Click(FrmCalcTramelo& f) {
+    return DescarregaCalculo(f);
+}
 
 } // namespace tramelo

@@ -15,7 +15,7 @@ namespace {
 // The tool's user: "Não" to every question but the limits one with --sim,
 // an empty text to every input box; each box is kept.
 class CaixasLote : public Caixas {
-public:
+  public:
     CaixasLote(ResultadoLote& r, bool sim) : r_(r), sim_(sim), anterior_(ambiente().caixas) {
         ambiente().caixas = this;
     }
@@ -27,16 +27,20 @@ public:
         const std::string prefixo = "Informação de Erro Código :";
         if ((estilo & 0x70) == vbCritical && titulo.rfind(prefixo, 0) == 0) {
             const std::string cabeca = "Descrição do Erro: ";
-            std::string descricao = texto.rfind(cabeca, 0) == 0 ? texto.substr(cabeca.size()) : texto;
+            std::string descricao =
+                texto.rfind(cabeca, 0) == 0 ? texto.substr(cabeca.size()) : texto;
             descricao = descricao.substr(0, descricao.find("\n\n"));
             r_.erro = ErroExecucao{std::atoi(titulo.c_str() + prefixo.size()), descricao};
         }
         switch (estilo & 7) {
         case vbYesNo:
             return sim_ && texto == "Deseja alterar o dados para cálculo?" ? vbYes : vbNo;
-        case vbYesNoCancel: return vbNo;
-        case vbOKCancel: return vbOK;
-        default: return vbOK;
+        case vbYesNoCancel:
+            return vbNo;
+        case vbOKCancel:
+            return vbOK;
+        default:
+            return vbOK;
         }
     }
     std::string InputBox(const std::string& prompt, const std::string& titulo,
@@ -45,7 +49,7 @@ public:
         return {};
     }
 
-private:
+  private:
     ResultadoLote& r_;
     bool sim_;
     Caixas* anterior_;

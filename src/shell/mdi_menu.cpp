@@ -6,9 +6,9 @@
 #include "document/frm_calc_tramelo.h"
 #include "document/janela.h"
 #include "document/janelas.h"
-#include "report/janela_relatorio.h"
 #include "plataforma/ambiente.h"
 #include "report/frm_relatorio.h"
+#include "report/janela_relatorio.h"
 #include "shell/barras.h"
 #include "shell/mod_base.h"
 #include "sizing/calculo.h"
@@ -21,8 +21,10 @@ namespace {
 void MarcaNoFilho(ItemMenu FrmCalcTramelo::*noCalculo, ItemMenu FrmRelatorio::*noRelatorio,
                   bool marcado) {
     FilhoAtivo& a = filhoAtivo();
-    if (a.calculo) (a.calculo->*noCalculo).Checked = marcado;
-    else if (a.relatorio) (a.relatorio->*noRelatorio).Checked = marcado;
+    if (a.calculo)
+        (a.calculo->*noCalculo).Checked = marcado;
+    else if (a.relatorio)
+        (a.relatorio->*noRelatorio).Checked = marcado;
 }
 
 // Band B toggled, O the other one: the coolbar goes when its last band does.
@@ -61,9 +63,13 @@ void InformaFalhaDeCalculo(int numero, const std::string& descricao) {
     InformaErro(ErroExecucao{numero, descricao});
 }
 
-void mnuArquivoNew_Click() { AbreCalculo(false, std::string()); }
+void mnuArquivoNew_Click() {
+    AbreCalculo(false, std::string());
+}
 
-void mnuArquivoOpen_Click() { AbreCalculo(true, std::string()); }
+void mnuArquivoOpen_Click() {
+    AbreCalculo(true, std::string());
+}
 
 void mnuArquivoFecharTodos_Click() {
     HabilitaMenu(false);
@@ -180,7 +186,8 @@ void tbCalculo_ButtonClick(std::string_view key) {
         if (key == "Calcular") {
             if (a.calculo && a.calculo->cmdCalcular.Enabled) {
                 ResultadoCalculo r = cmdCalcular_Click(*a.calculo);
-                if (r.fim == FimCalculo::Falhou) InformaFalhaDeCalculo(r.erro.numero, r.erro.descricao);
+                if (r.fim == FimCalculo::Falhou)
+                    InformaFalhaDeCalculo(r.erro.numero, r.erro.descricao);
             }
         } else if (key == "Calculadora") {
             if (a.calculo) {

@@ -30,7 +30,9 @@ std::string Proprio(const std::string& s) {
     return r;
 }
 
-std::string NomeValor(int i) { return " " + std::to_string(i); }
+std::string NomeValor(int i) {
+    return " " + std::to_string(i);
+}
 
 } // namespace
 
@@ -48,7 +50,8 @@ void AdicionaMRU(const std::string& Arquivo) {
         if (alvo == LCase(f[static_cast<size_t>(i - 1)])) break;
         ++i;
     }
-    for (int j = i; j >= 2; --j) f[static_cast<size_t>(j - 1)] = f[static_cast<size_t>(j - 2)];
+    for (int j = i; j >= 2; --j)
+        f[static_cast<size_t>(j - 1)] = f[static_cast<size_t>(j - 2)];
     f[0] = Arquivo;
 }
 
@@ -62,8 +65,10 @@ std::string EncurtaCaminho(const std::string& F) {
         int q = InStr(p + 1, F, "/");
         if (q == 0) break;
         std::string pasta = Mid(F, p + 1, q - 1 - p);
-        if (q - 1 > p + 5) t += Proprio(Left(pasta, 3)) + "../";
-        else t += Proprio(pasta) + "/";
+        if (q - 1 > p + 5)
+            t += Proprio(Left(pasta, 3)) + "../";
+        else
+            t += Proprio(pasta) + "/";
         p = q;
     }
     return t + Mid(F, p + 1);
@@ -81,7 +86,8 @@ void AtualizaMRU(MenuRecentes& Janela) {
 }
 
 void CarregaMRU() {
-    for (int i = 1; i <= 4; ++i) FilesMRU()[static_cast<size_t>(i - 1)] = LeConfig("FilesMRU", NomeValor(i));
+    for (int i = 1; i <= 4; ++i)
+        FilesMRU()[static_cast<size_t>(i - 1)] = LeConfig("FilesMRU", NomeValor(i));
 }
 
 void GravaMRU() {

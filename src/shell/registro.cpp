@@ -29,10 +29,14 @@ Pastas& pastas() {
 
 std::string ArquivoDaRaiz(uint32_t raiz) {
     switch (raiz) {
-    case HKEY_CURRENT_USER: return pastas().usuario + "/registro-usuario.json";
-    case HKEY_LOCAL_MACHINE: return pastas().dados + "/registro-maquina.json";
-    case HKEY_CLASSES_ROOT: return pastas().dados + "/registro-classes.json";
-    default: return {};
+    case HKEY_CURRENT_USER:
+        return pastas().usuario + "/registro-usuario.json";
+    case HKEY_LOCAL_MACHINE:
+        return pastas().dados + "/registro-maquina.json";
+    case HKEY_CLASSES_ROOT:
+        return pastas().dados + "/registro-classes.json";
+    default:
+        return {};
     }
 }
 
@@ -125,7 +129,7 @@ namespace {
 // The first six characters, case-sensitive: "Config..." is the user's.
 uint32_t RaizDaSecao(const std::string& Secao) {
     return Secao.compare(0, 6, "Config") == 0 && Secao.size() >= 6 ? HKEY_CURRENT_USER
-                                                                    : HKEY_LOCAL_MACHINE;
+                                                                   : HKEY_LOCAL_MACHINE;
 }
 } // namespace
 
@@ -151,12 +155,14 @@ std::string LeChave(uint32_t Raiz, const std::string& Chave, const std::string& 
         const int tipo = valor.value("tipo", 0);
         std::string bytes = DeHex(valor.value("dados", std::string()));
         // A buffer of 1024 characters; a longer value doesn't fit and fails.
-        const size_t tamanho = tipo == REG_SZ || tipo == REG_EXPAND_SZ ? bytes.size() + 1 : bytes.size();
+        const size_t tamanho =
+            tipo == REG_SZ || tipo == REG_EXPAND_SZ ? bytes.size() + 1 : bytes.size();
         if (tamanho > 1024) return {};
         bytes = bytes.substr(0, bytes.find('\0'));
         switch (tipo) {
         case REG_SZ:
-        case REG_EXPAND_SZ: return DeCp1252(bytes);
+        case REG_EXPAND_SZ:
+            return DeCp1252(bytes);
         case REG_DWORD: {
             // The cut bytes from the last to the first, each in hexadecimal
             // without leading zeros, read as "&h" and that text.
@@ -168,11 +174,13 @@ std::string LeChave(uint32_t Raiz, const std::string& Chave, const std::string& 
                 hex += d[c & 15];
             }
             long long n = 0;
-            for (char c : hex) n = n * 16 + (c <= '9' ? c - '0' : c - 'A' + 10);
+            for (char c : hex)
+                n = n * 16 + (c <= '9' ? c - '0' : c - 'A' + 10);
             if (hex.size() == 8 && n >= 0x80000000LL) n -= 0x100000000LL;
             return std::to_string(n);
         }
-        default: return {};
+        default:
+            return {};
         }
     } catch (...) {
         return {};

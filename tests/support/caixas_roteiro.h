@@ -18,12 +18,12 @@ struct CaixaMostrada {
 };
 
 class CaixasRoteiro : public Caixas {
-public:
+  public:
     CaixasRoteiro() : anterior_(ambiente().caixas) { ambiente().caixas = this; }
     ~CaixasRoteiro() override { ambiente().caixas = anterior_; }
 
-    std::deque<int> respostas;           // message box answers; empty: the first button
-    std::deque<std::string> textos;      // input box answers; empty: ""
+    std::deque<int> respostas;      // message box answers; empty: the first button
+    std::deque<std::string> textos; // input box answers; empty: ""
     std::vector<CaixaMostrada> mostradas;
 
     int MsgBox(const std::string& texto, int estilo, const std::string& titulo) override {
@@ -45,7 +45,7 @@ public:
         return r;
     }
 
-private:
+  private:
     Caixas* anterior_;
 };
 

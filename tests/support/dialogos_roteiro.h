@@ -12,7 +12,7 @@
 namespace tramelo::teste {
 
 class DialogosRoteiro : public Dialogos {
-public:
+  public:
     DialogosRoteiro() : anterior_(ambiente().dialogos) { ambiente().dialogos = this; }
     ~DialogosRoteiro() override { ambiente().dialogos = anterior_; }
 
@@ -28,7 +28,7 @@ public:
         return Responde(d);
     }
 
-private:
+  private:
     bool Responde(ConfiguraDialogo& d) {
         mostrados.push_back(d);
         if (nomes.empty()) return false;

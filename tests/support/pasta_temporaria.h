@@ -10,7 +10,7 @@
 namespace tramelo::teste {
 
 class PastaTemporaria {
-public:
+  public:
     PastaTemporaria() {
         std::string modelo = (std::filesystem::temp_directory_path() / "tramelo-XXXXXX").string();
         caminho_ = mkdtemp(modelo.data());
@@ -22,7 +22,7 @@ public:
     std::string operator/(const std::string& nome) const { return (caminho_ / nome).string(); }
     std::string str() const { return caminho_.string(); }
 
-private:
+  private:
     std::filesystem::path caminho_;
 };
 

@@ -20,13 +20,15 @@ inline void ConfereDourado(const std::string& nome, const std::vector<std::strin
     const std::string caminho = CaminhoDourado(nome);
     if (const char* r = std::getenv("TRAMELO_REESCREVE_RELATORIOS"); r && std::string(r) == "1") {
         std::ofstream saida(caminho, std::ios::binary);
-        for (const std::string& l : linhas) saida << l << '\n';
+        for (const std::string& l : linhas)
+            saida << l << '\n';
         return;
     }
     std::ifstream entrada(caminho, std::ios::binary);
     ASSERT_TRUE(entrada) << "falta o arquivo " << caminho;
     std::vector<std::string> esperadas;
-    for (std::string l; std::getline(entrada, l);) esperadas.push_back(l);
+    for (std::string l; std::getline(entrada, l);)
+        esperadas.push_back(l);
     ASSERT_EQ(linhas.size(), esperadas.size()) << nome;
     for (size_t i = 0; i < linhas.size(); ++i)
         EXPECT_EQ(linhas[i], esperadas[i]) << nome << ", linha " << i + 1;

@@ -1,0 +1,108 @@
+#include "plataforma/caixas_view.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tramelo {
+namespace {
+
+QString Q(const std::string& s) {
+    return QString::fromStdString(s);
+}
+
+QWidget* Dono(QWidget* dono) {
+    if (QWidget* ativo = QApplication::activeModalWidget()) return ativo;
+    return dono ? dono : QApplication::activeWindow();
+}
+
+} // namespace
+
+int CaixasQt::MsgBox(const std::string& texto, int estilo, const std::string& titulo) {
+    QMessageBox caixa(Dono(dono_));
+    caixa.setWindowTitle(Q(titulo.empty() ? std::string(TituloPrograma) : titulo));
+    caixa.setText(Q(texto));
+    switch (estilo & 0x70) {
+    case vbCritical:
+        caixa.setIcon(QMessageBox::Critical);
+        break;
+    case vbQuestion:
+        caixa.setIcon(QMessageBox::Question);
+        break;
+    case vbExclamation:
+        caixa.setIcon(QMessageBox::Warning);
+        break;
+    case vbInformation:
+        caixa.setIcon(QMessageBox::Information);
+        break;
+    default:
+        caixa.setIcon(QMessageBox::NoIcon);
+        break;
+    }
+    struct Botao {
+        const char* texto;
+        QMessageBox::ButtonRole papel;
+        int resposta;
+    };
+    std::vector<Botao> botoes;
+    switch (estilo & 7) {
+    case vbOKCancel:
+        botoes = {{"OK", QMessageBox::AcceptRole, vbOK},
+                  {"Cancelar", QMessageBox::RejectRole, vbCancel}};
+        break;
+    case vbYesNoCancel:
+        botoes = {{"&Sim", QMessageBox::YesRole, vbYes},
+                  {"&Não", QMessageBox::NoRole, vbNo},
+                  {"Cancelar", QMessageBox::RejectRole, vbCancel}};
+        break;
+    case vbYesNo:
+        botoes = {{"&Sim", QMessageBox::YesRole, vbYes}, {"&Não", QMessageBox::NoRole, vbNo}};
+        break;
+    default:
+        botoes = {{"OK", QMessageBox::AcceptRole, vbOK}};
+        break;
+    }
+    std::vector<QAbstractButton*> criados;
+    for (const Botao& b : botoes)
+        criados.push_back(caixa.addButton(QString::fromUtf8(b.texto), b.papel));
+    // The first button is the default, as on the program's platform.
+    caixa.setDefaultButton(static_cast<QPushButton*>(criados.front()));
+    if ((estilo & 7) == vbOKOnly || (estilo & 7) == vbOKCancel || (estilo & 7) == vbYesNoCancel)
+        caixa.setEscapeButton(criados.back());
+    caixa.exec();
+    QAbstractButton* clicado = caixa.clickedButton();
+    for (size_t i = 0; i < criados.size(); ++i)
+        if (criados[i] == clicado) return botoes[i].resposta;
+    // Closed by the title bar: the escape answer (the last button), or No.
+    return (estilo & 7) == vbYesNo ? vbNo : botoes.back().resposta;
+}
+
+std::string CaixasQt::InputBox(const std::string& prompt, const std::string& titulo,
+                               const std::string& padrao) {
+    QDialog dialogo(Dono(dono_));
+    dialogo.setWindowTitle(Q(titulo.empty() ? std::string(TituloPrograma) : titulo));
+    auto* layout = new QVBoxLayout(&dialogo);
+    auto* rotulo = new QLabel(Q(prompt));
+    rotulo->setWordWrap(true);
+    auto* campo = new QLineEdit(Q(padrao));
+    campo->selectAll();
+    campo->setMinimumWidth(320);
+    auto* botoes = new QDialogButtonBox;
+    botoes->addButton("OK", QDialogButtonBox::AcceptRole)->setDefault(true);
+    botoes->addButton("Cancelar", QDialogButtonBox::RejectRole);
+    QObject::connect(botoes, &QDialogButtonBox::accepted, &dialogo, &QDialog::accept);
+    QObject::connect(botoes, &QDialogButtonBox::rejected, &dialogo, &QDialog::reject);
+    layout->addWidget(rotulo);
+    layout->addWidget(campo);
+    layout->addWidget(botoes);
+    campo->setFocus();
+    if (dialogo.exec() != QDialog::Accepted) return {};
+    return campo->text().toStdString();
+}
+
+} // namespace tramelo

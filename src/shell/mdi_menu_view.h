@@ -1,0 +1,85 @@
+// The main window: the multiple-document frame with its menu, the two
+// toolbars, the status bar, and the calculation and report windows as its
+// children. It shows the frame record and passes clicks to the frame's
+// operations; a child's menu replaces the frame's while that child is active.
+#pragma once
+
+#include "document/janelas.h"
+
+#include <QMainWindow>
+
+#include <functional>
+#include <vector>
+
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class QToolBar;
+
+namespace tramelo {
+
+class CalculoView;
+class RelatorioView;
+class FrmCalcTramelo;
+struct FrmRelatorio;
+
+class MdiMenuView : public QMainWindow, public JanelasCalculo {
+    Q_OBJECT
+  public:
+    MdiMenuView();
+    ~MdiMenuView() override;
+
+    // Brings the frame and every child in line with their records.
+    void SincronizaTudo();
+    CalculoView* VistaCalculo(const FrmCalcTramelo& f) const;
+    RelatorioView* VistaRelatorio(const FrmRelatorio& r) const;
+    QMdiArea* area() const { return area_; }
+
+    // Adds any other child (a steam table); it is closed with the frame.
+    QMdiSubWindow* AdicionaFilho(QWidget* filho);
+
+    // JanelasCalculo: the desktop's side of a calculation's life.
+    void Carregada(FrmCalcTramelo& f) override;
+    void Mostra(FrmCalcTramelo& f) override;
+    void Descarregada(FrmCalcTramelo& f) override;
+    void Ocupado(FrmCalcTramelo& f, bool ocupado) override;
+    void BombeiaEventos() override;
+
+    // Runs when the user closes the frame; returns false to stay open.
+    std::function<bool()> aoFechar;
+
+  protected:
+    void closeEvent(QCloseEvent* e) override;
+    void changeEvent(QEvent* e) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+  private:
+    enum class Tipo { Frame, Calculo, Relatorio, Outro };
+    struct Par {
+        FrmCalcTramelo* registro;
+        QMdiSubWindow* janelaCalculo;
+        CalculoView* calculo;
+        QMdiSubWindow* janelaRelatorio;
+        RelatorioView* relatorio;
+    };
+
+    void SincronizaFrame();
+    void ConstroiMenus(Tipo tipo);
+    void AoAtivar(QMdiSubWindow* janela);
+    Tipo TipoDe(QMdiSubWindow* janela, FrmCalcTramelo** calculo, FrmRelatorio** relatorio) const;
+    void MostraRelatorio(FrmCalcTramelo& f);
+    void Acao(const std::function<void()>& acao);
+    void PreencheJanela(QMenu* menu);
+    QMenu* MenuBarras();
+
+    QMdiArea* area_;
+    QToolBar *tbPadrao_, *tbCalculo_;
+    QLabel *status_, *data_, *hora_;
+    std::vector<Par> pares_;
+    QMdiSubWindow* ativo_ = nullptr;
+    Tipo tipoMenu_ = Tipo::Outro;
+    bool menusPendentes_ = false;
+};
+
+} // namespace tramelo
