@@ -80,7 +80,9 @@ TEST_F(DocumentArquivo, ExemploByteAByteEDeVolta) {
     for (int i : LinhasDados) {
         EXPECT_EQ(g->txtDados(i)->Text(), f->txtDados(i)->Text()) << i;
         EXPECT_EQ(LinhaEmUso(*g, i), LinhaEmUso(*f, i)) << i;
-        if (g->cboDados(i)) EXPECT_EQ(g->cboDados(i)->ListIndex(), f->cboDados(i)->ListIndex()) << i;
+        if (g->cboDados(i)) {
+            EXPECT_EQ(g->cboDados(i)->ListIndex(), f->cboDados(i)->ListIndex()) << i;
+        }
     }
     EXPECT_EQ(g->FatorPerda, 0.1022f);
     EXPECT_EQ(g->Caption, "exemplo.trl");
@@ -111,7 +113,9 @@ TEST_F(DocumentArquivo, IdaEVoltaDeGasEVapor) {
         for (int i : LinhasDados) {
             if (!LinhaEmUso(*f, i)) continue;
             EXPECT_EQ(g->txtDados(i)->Text(), f->txtDados(i)->Text()) << fluido << " " << i;
-            if (g->cboDados(i)) EXPECT_EQ(g->cboDados(i)->ListIndex(), f->cboDados(i)->ListIndex());
+            if (g->cboDados(i)) {
+                EXPECT_EQ(g->cboDados(i)->ListIndex(), f->cboDados(i)->ListIndex());
+            }
         }
         EXPECT_EQ(g->cboDados(10)->ListIndex(), 1);
     }
