@@ -24,6 +24,8 @@ QFont FonteFixa(int pontos) {
     QFont f(QStringLiteral("Courier New"), pontos);
     f.setStyleHint(QFont::TypeWriter);
     f.setFixedPitch(true);
+    // Whole-pixel advances, as the design's 79 columns were measured with.
+    f.setHintingPreference(QFont::PreferFullHinting);
     if (!QFontInfo(f).fixedPitch()) f.setFamily(QStringLiteral("Liberation Mono"));
     return f;
 }
@@ -90,6 +92,7 @@ RelatorioView::RelatorioView(FrmRelatorio& registro, QWidget* pai)
     lstRelatorio_->setFont(fixa);
     lstRelatorio_->setGeometry(Px(-15, this), Px(1515, this), Px(8715, this), Px(3180, this));
     lstRelatorio_->setUniformItemSizes(true);
+    lstRelatorio_->setTextElideMode(Qt::ElideNone);
     lstRelatorio_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 
     setTabOrder(txtCliente_, txtOS_);
