@@ -30,6 +30,8 @@ ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
 
     sistema_ = std::make_unique<SistemaQt>();
     ambiente().sistema = sistema_.get();
+    mdiMenu() = MdiMenu{};
+    MdiMenu_Load();
     janela_ = std::make_unique<MdiMenuView>();
     if (servicosDoUsuario) {
         caixas_ = std::make_unique<CaixasQt>(janela_.get());
@@ -39,14 +41,15 @@ ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
     }
     janelasCalculo() = janela_.get();
     SairDoPrograma = [this] { janela_->close(); };
-    janela_->aoFechar = [] {
-        GravaMRU();
+    janela_->aoFechar = [this] {
+        MdiMenu_QueryUnload();
         // Each calculation asks about its unsaved changes; one cancel stops.
         while (!Calculos().empty())
             if (!DescarregaCalculo(*Calculos().front())) return false;
+        janela_->GuardaLugar();
+        MdiMenu_Unload();
         return true;
     };
-    CarregaMRU();
 }
 
 ProgramaQt::~ProgramaQt() {
@@ -62,7 +65,8 @@ ProgramaQt::~ProgramaQt() {
 }
 
 void ProgramaQt::Inicia() {
-    janela_->show();
+    if (mdiMenu().WindowState == 2) janela_->showMaximized();
+    else janela_->show();
     Atualiza(mdiMenu());
     AbreCalculo(false, std::string());
     janela_->SincronizaTudo();

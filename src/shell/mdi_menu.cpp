@@ -10,8 +10,13 @@
 #include "report/frm_relatorio.h"
 #include "report/janela_relatorio.h"
 #include "shell/barras.h"
+#include "plataforma/numero.h"
 #include "shell/mod_base.h"
+#include "shell/recentes.h"
+#include "shell/registro.h"
 #include "sizing/calculo.h"
+
+#include <cmath>
 
 namespace tramelo {
 namespace {
@@ -150,6 +155,43 @@ void mnuAjudaComoUsar_Click() {
     MsgBox("Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de Ajuda "
            "associado à este projeto.",
            vbInformation, mdiMenu().Caption);
+}
+
+void MdiMenu_Load() {
+    // All four toggles start ticked; only the exact text "False" turns one off.
+    if (LeConfig("Config", "Barra0") == "False") mnuExibirBarraPadrao_Click();
+    if (LeConfig("Config", "Barra1") == "False") mnuExibirBarraCalculo_Click();
+    if (LeConfig("Config", "Barra2") == "False") mnuExibirEtiqueta_Click();
+    if (LeConfig("Config", "Barra3") == "False") mnuExibirStatusBar_Click();
+    MdiMenu& m = mdiMenu();
+    int* lugar[] = {&m.Left, &m.Top, &m.Width, &m.Height, &m.WindowState};
+    const char* nomes[] = {"MainLeft", "MainTop", "MainWidth", "MainHeight", "MainWindowsState"};
+    for (int i = 0; i < 5; ++i) {
+        const double v = std::nearbyint(Val(LeConfig("Config\\Menu", nomes[i])));
+        if (v > 0 && v < 1e9) *lugar[i] = static_cast<int>(v);
+    }
+    CarregaMRU();
+    Atualiza(m);
+}
+
+void MdiMenu_QueryUnload() { GravaMRU(); }
+
+void MdiMenu_Unload() {
+    MdiMenu& m = mdiMenu();
+    auto texto = [](bool b) { return std::string(b ? "True" : "False"); };
+    GravaConfig("Config", "Barra0", texto(m.mnuExibirBarraPadrao.Checked));
+    GravaConfig("Config", "Barra1", texto(m.mnuExibirBarraCalculo.Checked));
+    GravaConfig("Config", "Barra2", texto(m.mnuExibirEtiqueta.Checked));
+    GravaConfig("Config", "Barra3", texto(m.mnuExibirStatusBar.Checked));
+    // The place stored is always the normal window's; a maximised exit is
+    // remembered by the state alone.
+    GravaConfig("Config\\Menu", "MainWindowsState", m.WindowState == 2 ? "2" : "0");
+    m.WindowState = 0;
+    DoEvents();
+    GravaConfig("Config\\Menu", "MainLeft", NumeroSimplesParaTexto(static_cast<float>(m.Left)));
+    GravaConfig("Config\\Menu", "MainTop", NumeroSimplesParaTexto(static_cast<float>(m.Top)));
+    GravaConfig("Config\\Menu", "MainWidth", NumeroSimplesParaTexto(static_cast<float>(m.Width)));
+    GravaConfig("Config\\Menu", "MainHeight", NumeroSimplesParaTexto(static_cast<float>(m.Height)));
 }
 
 void HabilitaMenu(bool Habilitado) {

@@ -61,6 +61,16 @@ void AjustaBarra();
 void tbPadrao_ButtonClick(std::string_view key);
 void tbCalculo_ButtonClick(std::string_view key);
 
+// The frame's load: the bars and the window's place from the settings (a
+// stored place of 0 or less keeps the design's), the recent files, Atualiza.
+void MdiMenu_Load();
+// Closing the frame, first stage: the recent files are stored (even if a
+// calculation then cancels the exit).
+void MdiMenu_QueryUnload();
+// Last stage: the bars' ticks as "True"/"False", the window state, and the
+// normal window's place in twips.
+void MdiMenu_Unload();
+
 // Disables the frame with the busy pointer while a longer action runs.
 void HabilitaMenu(bool Habilitado);
 

@@ -125,10 +125,13 @@ MdiMenuView::MdiMenuView() {
     connect(timer, &QTimer::timeout, this, relogio);
     timer->start(1000);
 
-    // The design place, made large enough for a calculation and its report.
+    // The stored place, or the design's made large enough for a calculation
+    // and its report.
     const MdiMenu& m = mdiMenu();
+    const MdiMenu projeto;
     move(Px(m.Left), Px(m.Top));
-    resize(std::max(Px(m.Width), 720), std::max(Px(m.Height), 600));
+    if (m.Width == projeto.Width && m.Height == projeto.Height) resize(720, 600);
+    else resize(Px(m.Width), Px(m.Height));
 
     CalculoView::aoAgir = [this] { SincronizaTudo(); };
     ConstroiMenus(Tipo::Frame);
@@ -328,6 +331,16 @@ void MdiMenuView::SincronizaTudo() {
             p.janelaRelatorio->hide();
         }
     }
+}
+
+void MdiMenuView::GuardaLugar() {
+    MdiMenu& m = mdiMenu();
+    const QRect r = normalGeometry().isValid() ? normalGeometry() : geometry();
+    m.Left = r.x() * 15;
+    m.Top = r.y() * 15;
+    m.Width = r.width() * 15;
+    m.Height = r.height() * 15;
+    m.WindowState = isMaximized() ? 2 : isMinimized() ? 1 : 0;
 }
 
 void MdiMenuView::closeEvent(QCloseEvent* e) {

@@ -36,6 +36,10 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo {
     RelatorioView* VistaRelatorio(const FrmRelatorio& r) const;
     QMdiArea* area() const { return area_; }
 
+    // The normal window's place and size, in twips, and its state, into the
+    // frame record (for the settings at close).
+    void GuardaLugar();
+
     // Adds any other child (a steam table); it is closed with the frame.
     QMdiSubWindow* AdicionaFilho(QWidget* filho);
 
