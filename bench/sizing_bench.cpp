@@ -25,13 +25,19 @@ void CalcularLiquido(benchmark::State& estado) {
 }
 BENCHMARK(CalcularLiquido);
 
-void CalcularAr(benchmark::State& estado) {
-    CaixasRoteiro caixas;
+// Dry air, the material factor typed as 1.
+std::unique_ptr<FrmCalcTramelo> Ar() {
     auto f = CalculoPronto(1, 1);
     f->cboDados(29)->DefineListIndex(1);
     Preenche(*f, {{2, "1000"}, {4, "102,26"}, {5, "10000"}, {8, "0"}, {9, "40"}, {12, "500"},
                   {16, "0"}, {19, "1"}, {25, "1"}, {26, "1"}, {20, "0,018"}, {27, "1,4"},
                   {28, "0,8"}, {29, "1"}});
+    return f;
+}
+
+void CalcularAr(benchmark::State& estado) {
+    CaixasRoteiro caixas;
+    auto f = Ar();
     for (auto _ : estado) {
         ResultadoCalculo r = cmdCalcular_Click(*f);
         benchmark::DoNotOptimize(r);
@@ -43,11 +49,7 @@ BENCHMARK(CalcularAr);
 // The secant loop of the air case: three passes with the expansibility.
 void IteracaoBeta(benchmark::State& estado) {
     CaixasRoteiro caixas;
-    auto f = CalculoPronto(1, 1);
-    f->cboDados(29)->DefineListIndex(1);
-    Preenche(*f, {{2, "1000"}, {4, "102,26"}, {5, "10000"}, {8, "0"}, {9, "40"}, {12, "500"},
-                  {16, "0"}, {19, "1"}, {25, "1"}, {26, "1"}, {20, "0,018"}, {27, "1,4"},
-                  {28, "0,8"}, {29, "1"}});
+    auto f = Ar();
     Execucao x;
     cmdCalcular_Click(*f, &x);
     const Num coefCarga = x.CoefCarga;

@@ -151,11 +151,8 @@ void mnuAjudaConteudo_Click() {
            vbInformation, mdiMenu().Caption);
 }
 
-void mnuAjudaComoUsar_Click() {
-    MsgBox("Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de Ajuda "
-           "associado à este projeto.",
-           vbInformation, mdiMenu().Caption);
-}
+// The platform's own help viewer doesn't exist here: the same box tells so.
+void mnuAjudaComoUsar_Click() { mnuAjudaConteudo_Click(); }
 
 void MdiMenu_Load() {
     // All four toggles start ticked; only the exact text "False" turns one off.
