@@ -1,0 +1,193 @@
+// The association of ".trl" files: the store's four entries, the desktop
+// entry and MIME type beside them, and the silent take-over at each start.
+#include "caixas_roteiro.h"
+#include "pasta_temporaria.h"
+
+#include "shell/associacao.h"
+#include "shell/entrada.h"
+#include "shell/registro.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <optional>
+#include <sys/stat.h>
+
+namespace tramelo::teste {
+namespace {
+
+const char* const ChaveComando = "Software\\Classes\\Tramelo.File\\Shell\\Open\\Command";
+
+struct Chamada {
+    std::string programa;
+    std::vector<std::string> argumentos;
+};
+
+class ShellAssociacao : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        setenv("XDG_DATA_HOME", (pasta / "share").c_str(), 1);
+        DefinePastasRegistro(pasta / "usuario", pasta / "dados");
+        PastaExecutavel() = "/opt/tramelo/bin";
+        ExecutaFerramenta = [this](const std::string& p, const std::vector<std::string>& a) {
+            chamadas.push_back({p, a});
+        };
+    }
+    void TearDown() override {
+        ExecutaFerramenta = nullptr;
+        PastaExecutavel().clear();
+        unsetenv("XDG_DATA_HOME");
+    }
+    std::string Desktop() const { return pasta / "share/applications/Tramelo.desktop"; }
+    std::string Mime() const { return pasta / "share/mime/packages/tramelo.xml"; }
+
+    PastaTemporaria pasta;
+    CaixasRoteiro caixas;
+    std::vector<Chamada> chamadas;
+};
+
+TEST_F(ShellAssociacao, EntradasGravadas) {
+    EXPECT_TRUE(AssociaArquivos());
+    EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", ""), "Tramelo.File");
+    EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, "Software\\Classes\\Tramelo.File", ""),
+              "Arquivo de Tramelo");
+    EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, "Software\\Classes\\Tramelo.File\\DefaultIcon", ""),
+              "/opt/tramelo/bin/Tramelo,1");
+    EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, ChaveComando, ""), "/opt/tramelo/bin/Tramelo %1");
+
+    const std::string desktop = LeBytes(Desktop());
+    EXPECT_EQ(desktop.rfind("[Desktop Entry]\n", 0), 0u);
+    EXPECT_NE(desktop.find("\nType=Application\n"), std::string::npos);
+    EXPECT_NE(desktop.find("\nExec=/opt/tramelo/bin/Tramelo %f\n"), std::string::npos);
+    EXPECT_NE(desktop.find("\nMimeType=application/x-tramelo;\n"), std::string::npos);
+    const std::string mime = LeBytes(Mime());
+    EXPECT_NE(mime.find("<mime-type type=\"application/x-tramelo\">"), std::string::npos);
+    EXPECT_NE(mime.find("<glob pattern=\"*.trl\"/>"), std::string::npos);
+
+    ASSERT_EQ(chamadas.size(), 2u);
+    EXPECT_EQ(chamadas[0].programa, "update-desktop-database");
+    EXPECT_EQ(chamadas[0].argumentos, std::vector<std::string>{pasta / "share/applications"});
+    EXPECT_EQ(chamadas[1].programa, "update-mime-database");
+    EXPECT_EQ(chamadas[1].argumentos, std::vector<std::string>{pasta / "share/mime"});
+
+    // A store that can't be written: the result is the last write's, in silence.
+    DefinePastasRegistro(pasta / "usuario", "/proc/tramelo-sem-acesso");
+    EXPECT_FALSE(AssociaArquivos());
+    EXPECT_TRUE(caixas.mostradas.empty());
+}
+
+TEST_F(ShellAssociacao, VerificacaoNaPartida) {
+    struct Caso {
+        const char* nome;
+        std::optional<std::string> extensao; // ".trl"'s class
+        std::optional<std::string> comando;
+        std::optional<std::string> associa;
+        bool reescreve;
+    };
+    const Caso casos[] = {
+        {"sem chave", std::nullopt, std::nullopt, std::nullopt, true},
+        {"de outro programa", "OutroPrograma.Documento", "/usr/bin/outro %1", "0", true},
+        {"sem classe", "", std::nullopt, std::nullopt, true},
+        {"minúsculas", "tramelo.file", std::nullopt, std::nullopt, true},
+        {"sem comando", "Tramelo.File", std::nullopt, std::nullopt, false},
+        // The comparison never sees the stored command: nothing written or asked.
+        {"outra pasta", "Tramelo.File", "/home/ana/velho/Tramelo %1", std::nullopt, false},
+        {"outra pasta, sem pergunta", "Tramelo.File", "/home/ana/velho/Tramelo %1", "0", false},
+        {"em ordem", "Tramelo.File", "/opt/tramelo/bin/Tramelo %1", "1", false},
+    };
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.nome);
+        std::filesystem::remove_all(pasta / "dados");
+        std::filesystem::remove_all(pasta / "share");
+        chamadas.clear();
+        if (c.extensao) GravaChave(HKEY_CLASSES_ROOT, ".trl", "", *c.extensao);
+        if (c.comando) GravaChave(HKEY_LOCAL_MACHINE, ChaveComando, "", *c.comando);
+        if (c.associa) GravaConfig("System", "Associa", *c.associa);
+
+        VerificaAssociacao();
+
+        EXPECT_TRUE(caixas.mostradas.empty());
+        EXPECT_EQ(std::filesystem::exists(Desktop()), c.reescreve);
+        EXPECT_EQ(chamadas.size(), c.reescreve ? 2u : 0u);
+        EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", ""),
+                  c.reescreve ? std::string("Tramelo.File") : c.extensao.value_or(""));
+        EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, ChaveComando, ""),
+                  c.reescreve ? std::string("/opt/tramelo/bin/Tramelo %1")
+                              : c.comando.value_or(""));
+        EXPECT_EQ(LeConfig("System", "Associa"), c.associa.value_or(""));
+    }
+}
+
+TEST_F(ShellAssociacao, PerguntaQuandoOComandoDifere) {
+    struct Caso {
+        std::optional<std::string> associa;
+        std::deque<int> respostas;
+        size_t caixas;
+        bool associa_arquivos;
+        std::string associaDepois;
+    };
+    const Caso casos[] = {
+        {std::nullopt, {vbYes}, 1, true, ""},
+        {"1", {vbNo, vbYes}, 2, false, "1"},
+        {std::nullopt, {vbNo, vbNo}, 2, false, "0"},
+        {"0", {}, 0, false, "0"},
+    };
+    for (const Caso& c : casos) {
+        std::filesystem::remove_all(pasta / "dados");
+        caixas.mostradas.clear();
+        caixas.respostas = c.respostas;
+        if (c.associa) GravaConfig("System", "Associa", *c.associa);
+
+        PerguntaAssociacao();
+
+        ASSERT_EQ(caixas.mostradas.size(), c.caixas);
+        EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", "") == "Tramelo.File", c.associa_arquivos);
+        EXPECT_EQ(LeConfig("System", "Associa"), c.associaDepois);
+        if (c.caixas >= 1) {
+            EXPECT_EQ(caixas.mostradas[0].texto, "Os arquivos de extenção 'trl' não estão "
+                                                 "associados a este programa de Tramelo.");
+            EXPECT_EQ(caixas.mostradas[0].titulo, "Deseja restaurar a associação dos arquivos ?");
+            EXPECT_EQ(caixas.mostradas[0].estilo, vbYesNo + vbExclamation);
+        }
+        if (c.caixas == 2) {
+            EXPECT_EQ(caixas.mostradas[1].texto, "Deseja receber esta mensagem novamente?");
+            EXPECT_EQ(caixas.mostradas[1].titulo, "Associação de arquivos");
+            EXPECT_EQ(caixas.mostradas[1].estilo, vbYesNo + vbExclamation);
+        }
+    }
+}
+
+TEST(ShellAssociacaoExec, CaminhoNaLinhaExec) {
+    struct Caso {
+        const char* caminho;
+        const char* exec;
+    };
+    const Caso casos[] = {
+        {"/opt/tramelo/bin/Tramelo", "/opt/tramelo/bin/Tramelo"},
+        {"/home/ana/meus programas/Tramelo", "\"/home/ana/meus programas/Tramelo\""},
+        {"/home/ana/R$/Tramelo", "\"/home/ana/R\\\\$/Tramelo\""},
+        {"/home/ana/100%/Tramelo", "/home/ana/100%%/Tramelo"},
+        {"/home/ana/a\"b/Tramelo", "\"/home/ana/a\\\\\"b/Tramelo\""},
+        {"/home/ana/a\\b/Tramelo", "\"/home/ana/a\\\\\\\\b/Tramelo\""},
+        {"/home/ana/cálculo/Tramelo", "/home/ana/cálculo/Tramelo"},
+    };
+    for (const Caso& c : casos)
+        EXPECT_EQ(ArgumentoExec(c.caminho), c.exec) << c.caminho;
+}
+
+TEST(ShellAssociacaoExec, FerramentaSoQuandoInstalada) {
+    PastaTemporaria pasta;
+    const std::string ferramenta = pasta / "update-mime-database";
+    GravaBytes(ferramenta, "#!/bin/sh\necho \"$@\" > \"${0%/*}/chamada\"\necho ruido\n"
+                           "echo erro >&2\n");
+    chmod(ferramenta.c_str(), 0755);
+    const std::string path = std::getenv("PATH") ? std::getenv("PATH") : "";
+    setenv("PATH", ("/nao/existe:" + pasta.str()).c_str(), 1);
+    ExecutaSeInstalada("update-mime-database", {"/tmp/x mime"});
+    ExecutaSeInstalada("update-desktop-database", {"/tmp/y"}); // not installed: nothing
+    setenv("PATH", path.c_str(), 1);
+    EXPECT_EQ(LeBytes(pasta / "chamada"), "/tmp/x mime\n");
+}
+
+} // namespace
+} // namespace tramelo::teste
