@@ -7,6 +7,7 @@
 #include "app/programa_qt.h"
 #include "document/frm_calc_tramelo.h"
 #include "shell/mdi_menu.h"
+#include "shell/registro.h"
 
 #include <QDir>
 #include <QMdiArea>
@@ -50,8 +51,11 @@ int main(int argc, char** argv) {
     CaixasRoteiro caixas;
     DialogosRoteiro dialogos;
     ProgramaQt programa(false);
+    // A new calculation at start, rather than the tip of the day.
+    DefinePastasRegistro(PastaConfiguracaoUsuario(), ".");
+    GravaConfig("Config", "DicasIniciar", "0");
     programa.janela().resize(1000, 760);
-    programa.Inicia();
+    if (!programa.Inicia()) return 1;
     programa.janela().activateWindow();
     QApplication::setActiveWindow(&programa.janela());
     Captura(&programa.janela(), "01-janela-principal");

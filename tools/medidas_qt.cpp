@@ -10,6 +10,7 @@
 #include "document/frm_calc_tramelo.h"
 #include "report/relatorio_view.h"
 #include "shell/mdi_menu.h"
+#include "shell/registro.h"
 
 #include <QElapsedTimer>
 #include <QMdiSubWindow>
@@ -47,8 +48,11 @@ int main(int argc, char** argv) {
     CaixasRoteiro caixas;
     DialogosRoteiro dialogos;
     ProgramaQt programa(false);
+    // A new calculation at start, rather than the tip of the day.
+    DefinePastasRegistro(PastaConfiguracaoUsuario(), ".");
+    GravaConfig("Config", "DicasIniciar", "0");
     Pintura pintura;
-    programa.Inicia();
+    if (!programa.Inicia()) return 1;
     CalculoView& v = *programa.janela().VistaCalculo(*Calculos().at(0));
     v.installEventFilter(&pintura);
     while (!pintura.pintou) QApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -1,5 +1,6 @@
 #include "app/programa_qt.h"
 
+#include "app/ligacao_qt.h"
 #include "app/servicos_qt.h"
 #include "document/ciclo.h"
 #include "document/frm_calc_tramelo.h"
@@ -7,16 +8,16 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/caixas_view.h"
 #include "shell/barras.h"
+#include "shell/entrada.h"
 #include "shell/mdi_menu.h"
 #include "shell/mdi_menu_view.h"
 #include "shell/mod_base.h"
-#include "shell/recentes.h"
-#include "shell/registro.h"
-#include "sizing/catalogo.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 
 namespace tramelo {
 
@@ -24,32 +25,20 @@ ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     if (QApplication::windowIcon().isNull())
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/tramelo/tramelo.png")));
-    DefinePastas(PastaDadosPrograma(QCoreApplication::applicationDirPath().toStdString()));
-    DefinePastasRegistro(PastaConfiguracaoUsuario(), modBase().PastaPrograma);
-    CarregaCatalogo();
-
     sistema_ = std::make_unique<SistemaQt>();
     ambiente().sistema = sistema_.get();
-    mdiMenu() = MdiMenu{};
-    MdiMenu_Load();
-    janela_ = std::make_unique<MdiMenuView>();
     if (servicosDoUsuario) {
-        caixas_ = std::make_unique<CaixasQt>(janela_.get());
-        dialogos_ = std::make_unique<DialogosQt>(janela_.get());
+        caixas_ = std::make_unique<CaixasQt>();
+        dialogos_ = std::make_unique<DialogosQt>();
         ambiente().caixas = caixas_.get();
         ambiente().dialogos = dialogos_.get();
+        ligacao_ = std::make_unique<LigacaoQt>();
+        ligacaoInstancias() = ligacao_.get();
     }
-    janelasCalculo() = janela_.get();
-    SairDoPrograma = [this] { janela_->close(); };
-    janela_->aoFechar = [this] {
-        MdiMenu_QueryUnload();
-        // Each calculation asks about its unsaved changes; one cancel stops.
-        while (!Calculos().empty())
-            if (!DescarregaCalculo(*Calculos().front())) return false;
-        janela_->GuardaLugar();
-        MdiMenu_Unload();
-        return true;
-    };
+    telaMenu() = this;
+    mdiMenu() = MdiMenu{};
+    // A second start ends at once, before any window.
+    EncerraProcesso = [this] { segundaInstancia_ = true; };
 }
 
 ProgramaQt::~ProgramaQt() {
@@ -59,25 +48,62 @@ ProgramaQt::~ProgramaQt() {
     janela_.reset();
     filhoAtivo() = {};
     Calculos().clear();
+    telaMenu() = nullptr;
+    EncerraProcesso = nullptr;
+    if (ligacao_) ligacaoInstancias() = nullptr;
     if (caixas_) ambiente().caixas = nullptr;
     if (dialogos_) ambiente().dialogos = nullptr;
     ambiente().sistema = nullptr;
 }
 
-void ProgramaQt::Inicia() {
-    if (mdiMenu().WindowState == 2) janela_->showMaximized();
-    else janela_->show();
-    Atualiza(mdiMenu());
-    AbreCalculo(false, std::string());
+bool ProgramaQt::Inicia() {
+    Main();
+    return !segundaInstancia_;
+}
+
+void ProgramaQt::Carrega() {
+    janela_ = std::make_unique<MdiMenuView>();
+    if (caixas_) caixas_->DefineDono(janela_.get());
+    if (dialogos_) dialogos_->DefineDono(janela_.get());
+    janelasCalculo() = janela_.get();
+    SairDoPrograma = [this] { janela_->close(); };
+    janela_->aoFechar = [] { return FechaPrograma(); };
+}
+
+void ProgramaQt::Mostra() {
+    if (!janela_) return;
+    AplicaEstado();
+    janela_->raise();
+    janela_->activateWindow();
     janela_->SincronizaTudo();
+}
+
+bool ProgramaQt::Visivel() { return janela_ && janela_->isVisible(); }
+
+void ProgramaQt::AplicaEstado() {
+    switch (mdiMenu().WindowState) {
+    case 2: janela_->showMaximized(); break;
+    case 1: janela_->showMinimized(); break;
+    default: janela_->showNormal(); break;
+    }
+}
+
+void ProgramaQt::GuardaLugar() { janela_->GuardaLugar(); }
+
+void ProgramaQt::DescarregaOutras() {
+    // What is left beside the calculations: tables, the calculator, tips.
+    for (QMdiSubWindow* j : janela_->area()->subWindowList()) j->close();
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w != janela_.get() && w->isVisible()) w->close();
 }
 
 int ExecutaPrograma(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tramelo"));
     QApplication::setApplicationVersion(QStringLiteral("2.0.1"));
+    DefineLinhaComando(argc, argv);
     ProgramaQt programa;
-    programa.Inicia();
+    if (!programa.Inicia()) return 0;
     return app.exec();
 }
 

@@ -1,7 +1,9 @@
 // The desktop program: the platform services installed for the core, the
-// main window, and its start. Tests and the screenshot tool build the same
-// program with their own scripted services.
+// main window the core's bring-up loads and shows, and the program's entry.
+// Tests and the tools build the same program with their own scripted boxes.
 #pragma once
+
+#include "shell/inicio.h"
 
 #include <memory>
 
@@ -11,23 +13,35 @@ class MdiMenuView;
 class CaixasQt;
 class DialogosQt;
 class SistemaQt;
+class LigacaoQt;
 
-class ProgramaQt {
-  public:
+class ProgramaQt : public TelaMenu {
+public:
     // With `servicosDoUsuario` false the caller installs its own message
-    // boxes and dialogs (tests); events, pointer and the shell are the real ones.
+    // boxes and dialogs, and no link to other instances is made (tests).
     explicit ProgramaQt(bool servicosDoUsuario = true);
-    ~ProgramaQt();
+    ~ProgramaQt() override;
 
     MdiMenuView& janela() { return *janela_; }
-    // Shows the main window and opens "Cálculo 1".
-    void Inicia();
+    // The entry routine: a second start hands its command line over and
+    // returns false; the first brings the program up and returns true.
+    bool Inicia();
 
-  private:
+    // TelaMenu: the main window for the core's bring-up and shutdown.
+    void Carrega() override;
+    void Mostra() override;
+    bool Visivel() override;
+    void AplicaEstado() override;
+    void GuardaLugar() override;
+    void DescarregaOutras() override;
+
+private:
     std::unique_ptr<CaixasQt> caixas_;
     std::unique_ptr<DialogosQt> dialogos_;
     std::unique_ptr<SistemaQt> sistema_;
+    std::unique_ptr<LigacaoQt> ligacao_;
     std::unique_ptr<MdiMenuView> janela_;
+    bool segundaInstancia_ = false;
 };
 
 // main(): the Qt application around the program.

@@ -12,6 +12,7 @@
 #include "shell/mdi_menu.h"
 #include "shell/mod_base.h"
 #include "shell/recentes.h"
+#include "shell/registro.h"
 
 #include <QClipboard>
 #include <QMdiArea>
@@ -33,7 +34,10 @@ class Programa : public ::testing::Test {
         FilesMRU() = {};
         canal1().Reinicia();
         programa = std::make_unique<ProgramaQt>(false);
-        programa->Inicia();
+        DefinePastasRegistro(PastaConfiguracaoUsuario(), pasta.str());
+        GravaConfig("Config", "DicasIniciar", "0");
+        ASSERT_TRUE(programa->Inicia());
+        caixas.mostradas.clear(); // the association's question at start
     }
     void TearDown() override { programa.reset(); }
 

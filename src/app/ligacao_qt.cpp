@@ -1,0 +1,72 @@
+#include "app/ligacao_qt.h"
+
+#include "plataforma/caixas.h"
+
+#include <QCoreApplication>
+#include <QLocalServer>
+#include <QLocalSocket>
+
+#include <unistd.h>
+
+namespace tramelo {
+
+LigacaoQt::LigacaoQt() = default;
+LigacaoQt::~LigacaoQt() = default;
+
+QString LigacaoQt::NomeSocket(const std::string& servicoTopico) {
+    QString nome = QString::fromStdString(servicoTopico);
+    nome.replace(QLatin1Char('|'), QLatin1Char('.'));
+    return nome + QStringLiteral(".%1").arg(getuid());
+}
+
+bool LigacaoQt::OutraInstancia() {
+    // A socket file left by a crashed first instance answers nobody: that
+    // isn't another instance.
+    QLocalSocket s;
+    s.connectToServer(NomeSocket(std::string(TituloPrograma) + "|" + TopicoMenu));
+    return s.waitForConnected(300);
+}
+
+bool LigacaoQt::Conecta(const std::string& servicoTopico) {
+    cliente_ = std::make_unique<QLocalSocket>();
+    cliente_->connectToServer(NomeSocket(servicoTopico));
+    return cliente_->waitForConnected(1000);
+}
+
+bool LigacaoQt::Envia(const std::string& comando, int tempoLimite) {
+    if (!cliente_ || cliente_->state() != QLocalSocket::ConnectedState) return false;
+    const int ms = tempoLimite * 100;
+    cliente_->write(QByteArray::fromStdString(comando) + '\n');
+    if (!cliente_->waitForBytesWritten(ms)) return false;
+    // Taken when the running instance answers.
+    return cliente_->waitForReadyRead(ms) && cliente_->readAll().startsWith("ok");
+}
+
+void LigacaoQt::Atende(const std::string& servicoTopico,
+                       std::function<void(const std::string&)> recebe) {
+    const QString nome = NomeSocket(servicoTopico);
+    QLocalServer::removeServer(nome);
+    servidor_ = new QLocalServer(this);
+    servidor_->setSocketOptions(QLocalServer::UserAccessOption);
+    if (!servidor_->listen(nome)) return;
+    connect(servidor_, &QLocalServer::newConnection, this, [this, recebe] {
+        while (QLocalSocket* s = servidor_->nextPendingConnection()) {
+            connect(s, &QLocalSocket::disconnected, s, &QObject::deleteLater);
+            connect(s, &QLocalSocket::readyRead, this, [s, recebe] {
+                while (s->canReadLine()) {
+                    QByteArray linha = s->readLine();
+                    linha.chop(1);
+                    s->write("ok\n");
+                    s->flush();
+                    const std::string comando = linha.toStdString();
+                    // Served on the main loop, after this event.
+                    QMetaObject::invokeMethod(
+                        QCoreApplication::instance(), [recebe, comando] { recebe(comando); },
+                        Qt::QueuedConnection);
+                }
+            });
+        }
+    });
+}
+
+} // namespace tramelo
