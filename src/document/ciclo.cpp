@@ -63,6 +63,19 @@ bool DescarregaCalculo(FrmCalcTramelo& f) {
     return true;
 }
 
+bool DescarregaTodosCalculos() {
+    // A copy: answering a question may not change the list, but be safe.
+    std::vector<FrmCalcTramelo*> todos;
+    for (auto& p : Calculos()) todos.push_back(p.get());
+    for (FrmCalcTramelo* f : todos)
+        if (Form_QueryUnload(*f)) return false;
+    for (FrmCalcTramelo* f : todos) {
+        Form_Unload(*f);
+        Remove(*f);
+    }
+    return true;
+}
+
 FrmCalcTramelo* AbreCalculo(bool Abrir, std::string& Arquivo) {
     if (JanelasCalculo* j = janelasCalculo()) j->BombeiaEventos();
     FrmCalcTramelo* f = nullptr;

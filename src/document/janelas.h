@@ -35,4 +35,8 @@ FrmCalcTramelo& CarregaCalculo();
 // Form_Unload runs and the record is destroyed.
 bool DescarregaCalculo(FrmCalcTramelo& f);
 
+// The program's exit: every calculation is asked first (its query-unload),
+// and only when none refuses are they all unloaded. False when one refused.
+bool DescarregaTodosCalculos();
+
 } // namespace tramelo

@@ -93,8 +93,8 @@ void MdiMenu_Resize() {
 
 bool FechaPrograma() {
     MdiMenu_QueryUnload();
-    while (!Calculos().empty())
-        if (!DescarregaCalculo(*Calculos().front())) return false;
+    // Every calculation is asked before any goes: one cancel keeps them all.
+    if (!DescarregaTodosCalculos()) return false;
     TelaMenu* t = telaMenu();
     if (t) t->GuardaLugar();
     // Bars as "True"/"False", the state, then the normal window's place.

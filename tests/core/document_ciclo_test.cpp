@@ -146,6 +146,22 @@ TEST_F(DocumentCiclo, PerguntaAoFechar) {
     EXPECT_EQ(caixas.mostradas.size(), 1u);
 }
 
+TEST_F(DocumentCiclo, SaidaPerguntaATodosAntesDeFecharAlgum) {
+    FrmCalcTramelo& a = Novo();
+    FrmCalcTramelo& b = Novo();
+    a.txtTag.DefineTexto("a");
+    b.txtTag.DefineTexto("b");
+    caixas.mostradas.clear();
+    // The first says no, the second cancels: both stay.
+    caixas.respostas = {vbNo, vbCancel};
+    EXPECT_FALSE(DescarregaTodosCalculos());
+    EXPECT_EQ(Calculos().size(), 2u);
+    EXPECT_EQ(caixas.mostradas.size(), 2u);
+    caixas.respostas = {vbNo, vbNo};
+    EXPECT_TRUE(DescarregaTodosCalculos());
+    EXPECT_TRUE(Calculos().empty());
+}
+
 TEST_F(DocumentCiclo, TrameloLimpaEsvaziaODocumento) {
     FrmCalcTramelo& f = Novo();
     f.txtTag.DefineTexto("FT");
