@@ -6,30 +6,42 @@
 namespace tramelo {
 namespace {
 
-// Proper case: the first letter of each word upper, the others lower.
-std::string Proprio(const std::string& s) {
-    std::string minusculo = LCase(s);
+// Proper case, as the platform's: every letter lower, except the first
+// character of each word, which is upper. Words are parted only by blanks
+// and control characters (null, tab, line feed, vertical tab, form feed,
+// carriage return), so "pasta-nova" gives "Pasta-nova" and "2a" stays.
+// Letters are those of the Latin-1 range, as in LCase.
+std::string CasoProprio(const std::string& s) {
+    const std::string minusculo = LCase(s);
     std::string r;
-    bool inicio = true;
+    r.reserve(minusculo.size());
+    bool inicioPalavra = true;
     for (size_t i = 0; i < minusculo.size(); ++i) {
-        unsigned char c = static_cast<unsigned char>(minusculo[i]);
-        if (inicio && c >= 'a' && c <= 'z') {
-            r += static_cast<char>(c - 32);
-        } else if (inicio && c == 0xC3 && i + 1 < minusculo.size()) {
-            unsigned char d = static_cast<unsigned char>(minusculo[i + 1]);
-            if (d >= 0xA0 && d <= 0xBE && d != 0xB7) d = static_cast<unsigned char>(d - 0x20);
-            r += static_cast<char>(c);
-            r += static_cast<char>(d);
-            ++i;
-        } else {
-            r += static_cast<char>(c);
+        const unsigned char c = static_cast<unsigned char>(minusculo[i]);
+        if (c >= 0x80) {
+            // One whole character: its lead byte and continuation bytes.
+            size_t fim = i + 1;
+            while (fim < minusculo.size() && (minusculo[fim] & 0xC0) == 0x80)
+                ++fim;
+            std::string caractere = minusculo.substr(i, fim - i);
+            // U+00E0..U+00FE (but not U+00F7) raise to U+00C0..U+00DE.
+            if (inicioPalavra && caractere.size() == 2 && c == 0xC3) {
+                const unsigned char d = static_cast<unsigned char>(caractere[1]);
+                if (d >= 0xA0 && d <= 0xBE && d != 0xB7) caractere[1] = static_cast<char>(d - 0x20);
+            }
+            r += caractere;
+            inicioPalavra = false;
+            i = fim - 1;
+            continue;
         }
-        if ((c & 0xC0) != 0x80) inicio = c == ' ' || c == '\t';
-        if (c == 0xC3) inicio = false;
+        r += static_cast<char>(inicioPalavra && c >= 'a' && c <= 'z' ? c - 32 : c);
+        inicioPalavra = c == ' ' || c == '\0' || (c >= '\t' && c <= '\r');
     }
     return r;
 }
 
+// " 1" to " 4": the text of a positive number keeps a blank for its sign,
+// and the stored names have always had it.
 std::string NomeValor(int i) {
     return " " + std::to_string(i);
 }
@@ -44,7 +56,10 @@ std::array<std::string, 4>& FilesMRU() {
 void AdicionaMRU(const std::string& Arquivo) {
     auto& f = FilesMRU();
     const std::string alvo = LCase(Arquivo);
+    // The first entry keeps its own spelling when the same file comes again.
     if (Arquivo.empty() || alvo == LCase(f[0])) return;
+    // i ends at the place of a match at 2 or 3, or at 4: no match, or a match
+    // at 4, and the last entry drops out either way.
     int i = 2;
     while (i <= 3) {
         if (alvo == LCase(f[static_cast<size_t>(i - 1)])) break;
@@ -65,10 +80,11 @@ std::string EncurtaCaminho(const std::string& F) {
         int q = InStr(p + 1, F, "/");
         if (q == 0) break;
         std::string pasta = Mid(F, p + 1, q - 1 - p);
+        // A name of more than 5 characters gives its first 3 and "../".
         if (q - 1 > p + 5)
-            t += Proprio(Left(pasta, 3)) + "../";
+            t += CasoProprio(Left(pasta, 3)) + "../";
         else
-            t += Proprio(pasta) + "/";
+            t += CasoProprio(pasta) + "/";
         p = q;
     }
     return t + Mid(F, p + 1);

@@ -26,11 +26,15 @@ struct MenuRecentes {
     EntradaMenu mnuArquivoMRUVazio{"Vazio", true, false};
 };
 
-// Rewrites a window's entries from the list: "&1 " and the path, shortened
-// when it has 31 characters or more.
+// Rewrites a window's entries from the list: entry i reads "&i " and the
+// path, shortened, and shows only when it has a file; "Vazio" shows when
+// the first doesn't.
 void AtualizaMRU(MenuRecentes& Janela);
 
-// The shortening of a long path for a menu caption.
+// A path for a menu caption: under 31 characters whole; longer, its first 3
+// characters, then each folder name of more than 5 characters as its first 3
+// in proper case and "../", the others whole in proper case and "/", then
+// the file name as it stands.
 std::string EncurtaCaminho(const std::string& F);
 
 // Read at the frame's load from section "FilesMRU", values " 1" to " 4";

@@ -1,0 +1,236 @@
+// The settings store: key paths, roots, the read limit, typed values and the
+// files on disk.
+#include "pasta_temporaria.h"
+
+#include "shell/registro.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tramelo::teste {
+namespace {
+
+class ShellRegistro : public ::testing::Test {
+  protected:
+    void SetUp() override { DefinePastasRegistro(pasta / "usuario", pasta / "dados"); }
+    PastaTemporaria pasta;
+};
+
+TEST_F(ShellRegistro, SecoesValoresEBrancos) {
+    EXPECT_EQ(LeConfig("Config", "Barra0"), ""); // no file yet
+    EXPECT_EQ(ChaveDaSecao("Config"), "Software\\Quillon\\Tramelo\\2.0\\Config");
+
+    // A section that doesn't exist is made, path and all, by the first write.
+    GravaConfig("Config\\Menu", "MainLeft", "1200");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1200");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainTop"), "");
+    EXPECT_EQ(LeConfig("Config\\Outra", "MainLeft"), "");
+    // Keys and value names compare without case, as the platform's do.
+    EXPECT_EQ(
+        LeChave(HKEY_CURRENT_USER, "SOFTWARE\\quillon\\Tramelo\\2.0\\config\\MENU", "mainleft"),
+        "1200");
+    GravaConfig("Config\\Menu", "MAINLEFT", "900"); // the same value, not a second one
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "900");
+
+    // An empty text is stored as one blank.
+    GravaConfig("Config", "DicasIniciar", "");
+    EXPECT_EQ(LeConfig("Config", "DicasIniciar"), " ");
+    // The key's default value has the empty name.
+    GravaChave(HKEY_CLASSES_ROOT, ".trl", "", "Tramelo.File");
+    EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", ""), "Tramelo.File");
+    EXPECT_EQ(LeChave(0x80000003, ".trl", ""), ""); // no such root
+    EXPECT_FALSE(GravaChave(0x80000003, ".trl", "", "x"));
+
+    // Text goes through the 8-bit code page: its accents stay, the rest is "?".
+    GravaConfig("Config", "Nome", "Água à vista €");
+    EXPECT_EQ(LeConfig("Config", "Nome"), "Água à vista €");
+    GravaConfig("Config", "Nome", "Δp");
+    EXPECT_EQ(LeConfig("Config", "Nome"), "?p");
+}
+
+TEST_F(ShellRegistro, RaizPelosSeisPrimeirosCaracteres) {
+    const struct {
+        const char* secao;
+        uint32_t raiz;
+    } casos[] = {
+        {"Config", HKEY_CURRENT_USER},        {"Config\\Menu", HKEY_CURRENT_USER},
+        {"Configuration", HKEY_CURRENT_USER}, {"config", HKEY_LOCAL_MACHINE},
+        {"CONFIG", HKEY_LOCAL_MACHINE},       {"Confi", HKEY_LOCAL_MACHINE},
+        {"FilesMRU", HKEY_LOCAL_MACHINE},     {"System", HKEY_LOCAL_MACHINE},
+    };
+    // One value name a row: "Config" and "config" are one key in a root.
+    int n = 0;
+    for (const auto& c : casos) {
+        const std::string v = "v" + std::to_string(n++);
+        GravaConfig(c.secao, v, c.secao);
+        const uint32_t outra = c.raiz == HKEY_CURRENT_USER ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+        EXPECT_EQ(LeChave(c.raiz, ChaveDaSecao(c.secao), v), c.secao) << c.secao;
+        EXPECT_EQ(LeChave(outra, ChaveDaSecao(c.secao), v), "") << c.secao;
+        EXPECT_EQ(LeConfig(c.secao, v), c.secao) << c.secao;
+    }
+}
+
+TEST_F(ShellRegistro, VersoesNaoPartilham) {
+    GravaChave(HKEY_CURRENT_USER, "Software\\Quillon\\Tramelo\\1.0\\Config", "Barra0", "False");
+    GravaChave(HKEY_LOCAL_MACHINE, "Software\\Quillon\\Tramelo\\2.1\\FilesMRU", " 1", "/a.trl");
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "");
+    EXPECT_EQ(LeConfig("FilesMRU", " 1"), "");
+    GravaConfig("Config", "Barra0", "True");
+    EXPECT_EQ(LeChave(HKEY_CURRENT_USER, "Software\\Quillon\\Tramelo\\1.0\\Config", "Barra0"),
+              "False");
+}
+
+TEST_F(ShellRegistro, LimiteDeLeitura) {
+    // The buffer holds 1024 characters of the code page, the terminating
+    // null among them: 1023 read back, 1024 or more read as empty.
+    const struct {
+        std::string dado;
+        bool lido;
+    } casos[] = {
+        {std::string(1023, 'x'), true},
+        {std::string(1024, 'x'), false},
+        {std::string(5000, 'x'), false},
+        {[] { // 1023 characters in 2046 bytes of UTF-8
+             std::string s;
+             for (int i = 0; i < 1023; ++i)
+                 s += "ç";
+             return s;
+         }(),
+         true},
+    };
+    for (const auto& c : casos) {
+        GravaConfig("Config", "Longo", c.dado);
+        EXPECT_EQ(LeConfig("Config", "Longo"), c.lido ? c.dado : "") << c.dado.size();
+    }
+    // A null cuts the text.
+    GravaChaveBruta(HKEY_CURRENT_USER, ChaveDaSecao("Config"), "Nulo", REG_SZ,
+                    std::string("abc\0def", 7));
+    EXPECT_EQ(LeConfig("Config", "Nulo"), "abc");
+}
+
+TEST_F(ShellRegistro, ValoresPorTipo) {
+    const std::string chave = ChaveDaSecao("System");
+    const struct {
+        int tipo;
+        std::string bytes;
+        const char* texto;
+    } casos[] = {
+        {REG_DWORD, std::string("\x01\x00\x00\x00", 4), "1"},
+        {REG_DWORD, std::string("\xff\x00\x00\x00", 4), "255"},
+        {REG_DWORD, std::string("\x45\x23\x01\x00", 4), "74565"}, // 0x12345
+        {REG_DWORD, std::string("\x02\x01\x00\x00", 4), "18"},    // 0x102: its inner zero is lost
+        {REG_DWORD, std::string("\x00\x01\x00\x00", 4), "0"},     // a zero byte cuts the number
+        {REG_DWORD, std::string("\x00\x00\x00\x00", 4), "0"},
+        {REG_DWORD, std::string("\x10\x80\x00\x00", 4), "-32752"}, // four digits: 16-bit
+        {REG_DWORD, std::string("\xff\xff\xff\xff", 4), "-1"},
+        {REG_EXPAND_SZ, "$HOME/%USERNAME%", "$HOME/%USERNAME%"}, // nothing expanded
+        {REG_BINARY, "abc", ""},
+        {7, std::string("a\0b\0\0", 5), ""}, // a list of strings
+    };
+    for (const auto& c : casos) {
+        GravaChaveBruta(HKEY_LOCAL_MACHINE, chave, "n", c.tipo, c.bytes);
+        EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, chave, "n"), c.texto) << c.tipo << " " << c.texto;
+    }
+}
+
+TEST_F(ShellRegistro, ArquivosLegiveisSemCache) {
+    GravaConfig("Config", "Barra0", "False");
+    GravaConfig("FilesMRU", " 1", "/home/ana/água.trl");
+    GravaChaveBruta(HKEY_LOCAL_MACHINE, ChaveDaSecao("System"), "n", REG_DWORD,
+                    std::string("\x01\x00\x00\x00", 4));
+    GravaChave(HKEY_CLASSES_ROOT, ".trl", "", "Tramelo.File");
+
+    using nlohmann::json;
+    const json usuario = json::parse(LeBytes(pasta / "usuario/registro-usuario.json"));
+    EXPECT_EQ(usuario, json::parse(R"({"Software\\Quillon\\Tramelo\\2.0\\Config":
+                                          {"Barra0": {"tipo": 1, "dados": "False"}}})"));
+    const json maquina = json::parse(LeBytes(pasta / "dados/registro-maquina.json"));
+    EXPECT_EQ(maquina["Software\\Quillon\\Tramelo\\2.0\\FilesMRU"][" 1"]["dados"],
+              "/home/ana/água.trl");
+    EXPECT_EQ(maquina["Software\\Quillon\\Tramelo\\2.0\\System"]["n"],
+              json::parse(R"({"tipo": 4, "dados": "01 00 00 00"})"));
+    EXPECT_TRUE(std::filesystem::exists(pasta / "dados/registro-classes.json"));
+    EXPECT_EQ(ArquivoDaRaiz(HKEY_CURRENT_USER), pasta / "usuario/registro-usuario.json");
+    // The temporary file of each write was renamed away.
+    for (const auto& e : std::filesystem::recursive_directory_iterator(pasta.str()))
+        EXPECT_EQ(e.path().extension(), e.is_directory() ? "" : ".json") << e.path();
+
+    // Each call reads the file: a change made beside the program is seen at once.
+    GravaBytes(
+        pasta / "usuario/registro-usuario.json",
+        R"({"Software\\Quillon\\Tramelo\\2.0\\Config": {"Barra0": {"tipo": 1, "dados": "True"}}})");
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
+}
+
+TEST_F(ShellRegistro, PastaDeConfiguracaoDoUsuario) {
+    auto guarda = [](const char* nome) -> std::optional<std::string> {
+        const char* v = std::getenv(nome);
+        return v ? std::optional<std::string>(v) : std::nullopt;
+    };
+    const auto xdg = guarda("XDG_CONFIG_HOME"), home = guarda("HOME");
+    setenv("XDG_CONFIG_HOME", (pasta / "xdg").c_str(), 1);
+    EXPECT_EQ(PastaConfiguracaoUsuario(), pasta / "xdg/Tramelo");
+    setenv("XDG_CONFIG_HOME", "", 1);
+    setenv("HOME", (pasta / "casa").c_str(), 1);
+    EXPECT_EQ(PastaConfiguracaoUsuario(), pasta / "casa/.config/Tramelo");
+    xdg ? setenv("XDG_CONFIG_HOME", xdg->c_str(), 1) : unsetenv("XDG_CONFIG_HOME");
+    home ? setenv("HOME", home->c_str(), 1) : unsetenv("HOME");
+}
+
+TEST_F(ShellRegistro, FalhasEmSilencio) {
+    const std::string arquivo = pasta / "usuario/registro-usuario.json";
+    GravaConfig("Config", "Barra0", "False");
+    GravaConfig("Config", "Barra1", "False");
+
+    // A damaged file reads as empty; the next write begins a fresh root and
+    // keeps the damaged one aside.
+    GravaBytes(arquivo, "{ isto não é json");
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "");
+    GravaConfig("Config", "Barra0", "True");
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
+    EXPECT_EQ(LeConfig("Config", "Barra1"), "");
+    EXPECT_EQ(LeBytes(arquivo + ".danificado"), "{ isto não é json");
+
+    // JSON of the wrong shape is damage too.
+    const char* formas[] = {
+        "[1, 2]",
+        R"({"Software\\Quillon\\Tramelo\\2.0\\Config": 5})",
+        R"({"Software\\Quillon\\Tramelo\\2.0\\Config": {"Barra0": "True"}})",
+        R"({"Software\\Quillon\\Tramelo\\2.0\\Config": {"Barra0": {"tipo": "1", "dados": "x"}}})",
+        R"({"Software\\Quillon\\Tramelo\\2.0\\Config": {"Barra0": {"tipo": 1, "dados": 5}}})",
+        R"({"Software\\Quillon\\Tramelo\\2.0\\Config": {"Barra0": {"tipo": 4, "dados": "0g"}}})",
+    };
+    for (const char* f : formas) {
+        GravaBytes(arquivo, f);
+        EXPECT_EQ(LeConfig("Config", "Barra0"), "") << f;
+    }
+
+    // A folder that can't be made: the write is lost and nothing is thrown.
+    GravaBytes(pasta / "arquivo", "x");
+    DefinePastasRegistro(pasta / "arquivo/sub", pasta / "arquivo/sub");
+    EXPECT_NO_THROW(GravaConfig("Config", "Barra0", "True"));
+    EXPECT_FALSE(GravaChave(HKEY_CURRENT_USER, ChaveDaSecao("Config"), "Barra0", "True"));
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "");
+}
+
+TEST_F(ShellRegistro, RaizSemEscritaNaoSeLe) {
+    // Keys are opened for writing as well: a root the user may not write
+    // reads as empty. The superuser may write anything, so this can't be seen.
+    if (geteuid() == 0) GTEST_SKIP() << "run as the superuser";
+    GravaConfig("FilesMRU", " 1", "/a.trl");
+    const std::string arquivo = pasta / "dados/registro-maquina.json";
+    chmod(arquivo.c_str(), 0444);
+    EXPECT_EQ(LeConfig("FilesMRU", " 1"), "");
+    EXPECT_FALSE(GravaChave(HKEY_LOCAL_MACHINE, ChaveDaSecao("FilesMRU"), " 1", "/b.trl"));
+    chmod(arquivo.c_str(), 0644);
+    EXPECT_EQ(LeConfig("FilesMRU", " 1"), "/a.trl");
+}
+
+} // namespace
+} // namespace tramelo::teste
