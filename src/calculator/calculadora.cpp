@@ -169,7 +169,8 @@ std::optional<ErroExecucao> Cola(Calculadora& c, std::string_view Texto) {
         } else if (ch.size() == 1 && ch[0] >= '0' && ch[0] <= '9') {
             Number_Click(c, static_cast<short>(ch[0] - '0'));
         } else {
-            // The field's text is taken digit by digit as a whole number each.
+            // Each character is read as a number of its own: a sign, a point or a
+            // letter is no number.
             return ComoErro(Falha(TiposIncompativeis));
         }
     }
