@@ -54,8 +54,8 @@ int main(int argc, char** argv) {
     // A new calculation at start, rather than the tip of the day.
     DefinePastasRegistro(PastaConfiguracaoUsuario(), ".");
     GravaConfig("Config", "DicasIniciar", "0");
-    programa.janela().resize(1000, 760);
     if (!programa.Inicia()) return 1;
+    programa.janela().resize(1000, 760);
     programa.janela().activateWindow();
     QApplication::setActiveWindow(&programa.janela());
     Captura(&programa.janela(), "01-janela-principal");
@@ -82,5 +82,14 @@ int main(int argc, char** argv) {
     Widget<QLineEdit>(&agua, "txtDados(9)")->setFocus();
     Botao(programa.janela(), "tbCalculo", "Calcular");
     Captura(&programa.janela(), "04-relatorio");
+
+    for (int i = 0; i < 2; ++i) {
+        mnuAjudaDocumentacaoTabela(i);
+        QMdiSubWindow* tabela = programa.janela().area()->subWindowList().last();
+        tabela->resize(720, 420);
+        tabela->move(40 + 60 * i, 60 + 40 * i);
+        tabela->raise();
+    }
+    Captura(&programa.janela(), "05-tabelas-vapor");
     return 0;
 }

@@ -15,7 +15,7 @@ namespace tramelo {
 
 class LigacaoQt : public QObject, public LigacaoInstancias {
     Q_OBJECT
-public:
+  public:
     LigacaoQt();
     ~LigacaoQt() override;
 
@@ -28,7 +28,7 @@ public:
     // The socket's name for a "service|topic": one per user of the machine.
     static QString NomeSocket(const std::string& servicoTopico);
 
-private:
+  private:
     std::unique_ptr<QLocalSocket> cliente_;
     QLocalServer* servidor_ = nullptr;
 };

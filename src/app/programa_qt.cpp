@@ -12,6 +12,7 @@
 #include "shell/mdi_menu.h"
 #include "shell/mdi_menu_view.h"
 #include "shell/mod_base.h"
+#include "steam/tabela_view.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -49,6 +50,7 @@ ProgramaQt::~ProgramaQt() {
     filhoAtivo() = {};
     Calculos().clear();
     telaMenu() = nullptr;
+    mnuAjudaDocumentacaoTabela = nullptr;
     EncerraProcesso = nullptr;
     if (ligacao_) ligacaoInstancias() = nullptr;
     if (caixas_) ambiente().caixas = nullptr;
@@ -68,6 +70,12 @@ void ProgramaQt::Carrega() {
     janelasCalculo() = janela_.get();
     SairDoPrograma = [this] { janela_->close(); };
     janela_->aoFechar = [] { return FechaPrograma(); };
+    // Each click makes one more table window; nothing keeps a reference.
+    mnuAjudaDocumentacaoTabela = [this](int indice) {
+        auto* tabela = new TabelaView;
+        tabela->TabelaInicia(static_cast<short>(indice));
+        janela_->AdicionaFilho(tabela);
+    };
 }
 
 void ProgramaQt::Mostra() {
@@ -78,21 +86,32 @@ void ProgramaQt::Mostra() {
     janela_->SincronizaTudo();
 }
 
-bool ProgramaQt::Visivel() { return janela_ && janela_->isVisible(); }
+bool ProgramaQt::Visivel() {
+    return janela_ && janela_->isVisible();
+}
 
 void ProgramaQt::AplicaEstado() {
     switch (mdiMenu().WindowState) {
-    case 2: janela_->showMaximized(); break;
-    case 1: janela_->showMinimized(); break;
-    default: janela_->showNormal(); break;
+    case 2:
+        janela_->showMaximized();
+        break;
+    case 1:
+        janela_->showMinimized();
+        break;
+    default:
+        janela_->showNormal();
+        break;
     }
 }
 
-void ProgramaQt::GuardaLugar() { janela_->GuardaLugar(); }
+void ProgramaQt::GuardaLugar() {
+    janela_->GuardaLugar();
+}
 
 void ProgramaQt::DescarregaOutras() {
     // What is left beside the calculations: tables, the calculator, tips.
-    for (QMdiSubWindow* j : janela_->area()->subWindowList()) j->close();
+    for (QMdiSubWindow* j : janela_->area()->subWindowList())
+        j->close();
     for (QWidget* w : QApplication::topLevelWidgets())
         if (w != janela_.get() && w->isVisible()) w->close();
 }

@@ -16,7 +16,7 @@ class SistemaQt;
 class LigacaoQt;
 
 class ProgramaQt : public TelaMenu {
-public:
+  public:
     // With `servicosDoUsuario` false the caller installs its own message
     // boxes and dialogs, and no link to other instances is made (tests).
     explicit ProgramaQt(bool servicosDoUsuario = true);
@@ -35,7 +35,7 @@ public:
     void GuardaLugar() override;
     void DescarregaOutras() override;
 
-private:
+  private:
     std::unique_ptr<CaixasQt> caixas_;
     std::unique_ptr<DialogosQt> dialogos_;
     std::unique_ptr<SistemaQt> sistema_;

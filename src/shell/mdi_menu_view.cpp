@@ -160,7 +160,8 @@ void MdiMenuView::Acao(const std::function<void()>& acao) {
 }
 
 QMdiSubWindow* MdiMenuView::AdicionaFilho(QWidget* filho) {
-    QMdiSubWindow* j = area_->addSubWindow(filho, FlagsFilho());
+    // Other children (the steam tables) can be resized and maximised.
+    QMdiSubWindow* j = area_->addSubWindow(filho);
     j->setAttribute(Qt::WA_DeleteOnClose);
     j->show();
     return j;

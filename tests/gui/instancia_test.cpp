@@ -54,7 +54,8 @@ TEST(Instancia, SegundaPartidaAbreOArquivoNaPrimeira) {
         EXPECT_EQ(segunda.exitCode(), 0);
         std::printf("segunda partida entregou o arquivo e terminou em %lld ms\n",
                     static_cast<long long>(relogio.elapsed()));
-        for (int i = 0; i < 50 && Calculos().size() < 2; ++i) QApplication::processEvents(QEventLoop::AllEvents, 20);
+        for (int i = 0; i < 50 && Calculos().size() < 2; ++i)
+            QApplication::processEvents(QEventLoop::AllEvents, 20);
         ASSERT_EQ(Calculos().size(), 2u);
         EXPECT_EQ(Calculos()[1]->Caption, "vapor.trl");
         const char* vazio[] = {"Tramelo"};
@@ -81,7 +82,8 @@ TEST(Instancia, SoqueteAbandonadoNaoImpedeAPrimeira) {
     // The server answers on the event loop, so the send waits in a thread-free
     // way: pump until the command arrives.
     cliente.Envia("/P x", 1);
-    while (recebido.empty() && t.elapsed() < 3000) QApplication::processEvents(QEventLoop::AllEvents, 10);
+    while (recebido.empty() && t.elapsed() < 3000)
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
     enviado = !recebido.empty();
     EXPECT_TRUE(enviado);
     EXPECT_EQ(recebido, "/P x");
