@@ -2,6 +2,9 @@
 
 #include "app/ligacao_qt.h"
 #include "app/servicos_qt.h"
+#include "calculator/calculadora_view.h"
+#include "document/calculo_view.h"
+#include "document/entrada.h"
 #include "document/ciclo.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janelas.h"
@@ -15,6 +18,7 @@
 #include "steam/tabela_view.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QIcon>
 #include <QLocale>
 #include <QMdiArea>
@@ -37,7 +41,9 @@ ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
         ligacaoInstancias() = ligacao_.get();
     }
     telaMenu() = this;
+    // One run of the program: its frame and its numbering start afresh.
     mdiMenu() = MdiMenu{};
+    ContadorCalculos() = 0;
     // A second start ends at once, before any window.
     EncerraProcesso = [this] { segundaInstancia_ = true; };
 }
@@ -51,6 +57,8 @@ ProgramaQt::~ProgramaQt() {
     Calculos().clear();
     telaMenu() = nullptr;
     mnuAjudaDocumentacaoTabela = nullptr;
+    AbreCalculadora = nullptr;
+    CalculadoraView::aoEscrever = nullptr;
     EncerraProcesso = nullptr;
     if (ligacao_) ligacaoInstancias() = nullptr;
     if (caixas_) ambiente().caixas = nullptr;
@@ -70,6 +78,12 @@ void ProgramaQt::Carrega() {
     janelasCalculo() = janela_.get();
     SairDoPrograma = [this] { janela_->close(); };
     janela_->aoFechar = [] { return FechaPrograma(); };
+    // The desk calculator opens beside the field it types into.
+    AbreCalculadora = [this](FrmCalcTramelo& f, int indice) {
+        CalculoView* v = janela_->VistaCalculo(f);
+        CalculadoraView::Abre(f, indice, v ? v->CampoDados(indice) : nullptr, janela_.get());
+    };
+    CalculadoraView::aoEscrever = [this] { janela_->SincronizaTudo(); };
     // Each click makes one more table window; nothing keeps a reference.
     mnuAjudaDocumentacaoTabela = [this](int indice) {
         auto* tabela = new TabelaView;

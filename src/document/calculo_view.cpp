@@ -264,6 +264,13 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         }
         break;
     case QEvent::FocusIn:
+        // The record knows which control has the focus: the toolbar's
+        // calculator opens on it.
+        registro_.foco = campo == txtTag_               ? "txtTag"
+                         : objeto == cboMassaDensidade_ ? "cboMassaDensidade"
+                         : campo && i >= 0              ? "txtDados(" + std::to_string(i) + ")"
+                         : i >= 0                       ? "cboDados(" + std::to_string(i) + ")"
+                                                        : std::string();
         if (campo == txtTag_) {
             Age([this] { txtTag_GotFocus(registro_); });
             txtTag_->selectAll();

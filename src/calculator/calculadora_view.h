@@ -1,0 +1,70 @@
+// The desk calculator's floating window: opened at a data field with its
+// value typed in, "=" writes the display back into the field, and losing the
+// activation closes it with nothing written.
+#pragma once
+
+#include "calculator/calculadora.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+class QLabel;
+
+namespace tramelo {
+
+class FrmCalcTramelo;
+class BotaoCalculadora;
+
+class CalculadoraView : public QWidget {
+    Q_OBJECT
+  public:
+    explicit CalculadoraView(QWidget* dono = nullptr);
+    ~CalculadoraView() override;
+
+    Calculadora& registro() { return calc_; }
+    const QString Visor() const;
+
+    // Types a text in, as the keys would; false (after the error box) when a
+    // character can't be typed.
+    bool Cola(const std::string& texto);
+    // Keeps the calculation window and the row it writes to, and shows it.
+    void Inicia(FrmCalcTramelo& pai, int indice);
+
+    // The program's one calculator, opened at row `indice` of `pai`, beside
+    // `campo` (its screen rectangle decides above or below).
+    static void Abre(FrmCalcTramelo& pai, int indice, QWidget* campo, QWidget* dono);
+    static CalculadoraView* Aberta();
+    // Runs after the calculator wrote into a field.
+    static std::function<void()> aoEscrever;
+
+  protected:
+    void keyPressEvent(QKeyEvent* e) override;
+    void keyReleaseEvent(QKeyEvent* e) override;
+    void changeEvent(QEvent* e) override;
+
+  private:
+    friend class BotaoCalculadora;
+    // Which handler a button or key runs: digits 0-9, then the others.
+    enum Tecla { Separador = 10, Percentual, CancelaEntrada, Cancela, Operador0 };
+    void Pressiona(int tecla);
+    void Solta(int tecla);
+    void Executa(int tecla);
+    void Botao(BotaoCalculadora* imagem, int face);
+    void Mostra();
+
+  public:
+    // Closes the calculator, writing nothing.
+    void Fecha();
+
+    Calculadora calc_;
+    FrmCalcTramelo* FormPai = nullptr;
+    int indice_ = -1;
+    QLabel* Readout_;
+    std::array<BotaoCalculadora*, 19> botoes_{};
+    BotaoCalculadora* BotaoAtual = nullptr;
+    bool fechando_ = false;
+};
+
+} // namespace tramelo
