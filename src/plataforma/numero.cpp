@@ -104,7 +104,7 @@ std::optional<double> LeNumero(std::string_view t) {
     while (i < n && Branco(t[i])) ++i;
     while (n > i && Branco(t[n - 1])) --n;
     // Rebuilt in the C form that from_chars reads: digits, ".", "e".
-    char buf[400];
+    char buf[2100];
     size_t k = 0;
     bool negativo = false;
     if (i < n && (t[i] == '+' || t[i] == '-')) negativo = t[i++] == '-';
@@ -112,7 +112,7 @@ std::optional<double> LeNumero(std::string_view t) {
     for (; i < n; ++i) {
         char c = t[i];
         if (Digito(c)) {
-            if (k >= 300) return std::nullopt;
+            if (k >= 2000) return std::nullopt;
             buf[k++] = c;
             temDigito = true;
         } else if (c == '.') {

@@ -44,6 +44,12 @@ TEST(PlataformaNumero, TextoParaNumero) {
         }
     }
     try {
+        TextoParaNumero(std::string(310, '9')); // typed digit by digit in the calculator
+        ADD_FAILURE();
+    } catch (const Falha& f) {
+        EXPECT_EQ(f.numero(), 6);
+    }
+    try {
         TextoParaNumero("1E400");
         ADD_FAILURE();
     } catch (const Falha& f) {
