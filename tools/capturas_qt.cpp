@@ -5,9 +5,21 @@
 #include "usuario_qt.h"
 
 #include "app/programa_qt.h"
+#include "app/servicos_qt.h"
+#include "calculator/calculadora_view.h"
 #include "document/frm_calc_tramelo.h"
+#include "report/frm_relatorio.h"
+#include "shell/abertura.h"
+#include "shell/abertura_view.h"
+#include "shell/dicas_view.h"
 #include "shell/mdi_menu.h"
+#include "shell/opcoes_view.h"
 #include "shell/registro.h"
+#include "steam/tabela_view.h"
+#include <QPrinter>
+#include <QProcess>
+#include <QScreen>
+#include <QTimer>
 
 #include <QDir>
 #include <QMdiArea>
@@ -23,15 +35,27 @@ namespace {
 
 QString pasta;
 
-void Captura(QWidget* w, const char* nome) {
+// The whole screen, so that the floating windows are in the picture too.
+void Captura(QWidget*, const char* nome) {
     QApplication::processEvents();
     QTest::qWait(150);
-    const QString arquivo = pasta + QLatin1Char('/') + QString::fromLatin1(nome) + QStringLiteral(".png");
-    w->window()->grab().save(arquivo);
+    const QString arquivo =
+        pasta + QLatin1Char('/') + QString::fromLatin1(nome) + QStringLiteral(".png");
+    QApplication::primaryScreen()->grabWindow(0).save(arquivo);
     std::printf("%s\n", qPrintable(arquivo));
 }
 
-CalculoView& Vista(ProgramaQt& p, size_t i) { return *p.janela().VistaCalculo(*Calculos().at(i)); }
+// Pictures a modal window once it is up, then closes it.
+void CapturaModal(const char* nome) {
+    QTimer::singleShot(400, [nome] {
+        Captura(nullptr, nome);
+        if (QWidget* m = QApplication::activeModalWidget()) m->close();
+    });
+}
+
+CalculoView& Vista(ProgramaQt& p, size_t i) {
+    return *p.janela().VistaCalculo(*Calculos().at(i));
+}
 
 void Preenche(CalculoView& v, int orificio, int fluido, int tomada,
               const std::vector<std::pair<int, const char*>>& valores) {
@@ -39,7 +63,8 @@ void Preenche(CalculoView& v, int orificio, int fluido, int tomada,
     Escolhe(Widget<QComboBox>(&v, "cboFluido"), fluido);
     Escolhe(Widget<QComboBox>(&v, "cboTomada"), tomada);
     for (auto [i, texto] : valores)
-        Digita(Widget<QLineEdit>(&v, QStringLiteral("txtDados(%1)").arg(i)), QString::fromUtf8(texto));
+        Digita(Widget<QLineEdit>(&v, QStringLiteral("txtDados(%1)").arg(i)),
+               QString::fromUtf8(texto));
 }
 
 } // namespace
@@ -63,8 +88,15 @@ int main(int argc, char** argv) {
     caixas.textos = {"Água"};
     CalculoView& agua = Vista(programa, 0);
     Preenche(agua, 0, 0, 0,
-             {{2, "50"}, {4, "102.26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"}, {18, "998"},
-              {20, "1"}, {28, "0.8"}});
+             {{2, "50"},
+              {4, "102.26"},
+              {5, "25000"},
+              {8, "20"},
+              {9, "20"},
+              {17, "998"},
+              {18, "998"},
+              {20, "1"},
+              {28, "0.8"}});
     Digita(Widget<QLineEdit>(&agua, "txtTag"), "FT-2301");
     Captura(&programa.janela(), "02-calculo-liquido");
 
@@ -73,8 +105,19 @@ int main(int argc, char** argv) {
     caixas.textos = {"Ar comprimido"};
     CalculoView& ar = Vista(programa, 1);
     Preenche(ar, 1, 1, 3,
-             {{2, "1000"}, {4, "102.26"}, {5, "10000"}, {8, "0"}, {9, "40"}, {12, "500"}, {16, "0"},
-              {19, "1"}, {25, "1"}, {26, "1"}, {20, "0.018"}, {27, "1.4"}, {28, "0.8"}});
+             {{2, "1000"},
+              {4, "102.26"},
+              {5, "10000"},
+              {8, "0"},
+              {9, "40"},
+              {12, "500"},
+              {16, "0"},
+              {19, "1"},
+              {25, "1"},
+              {26, "1"},
+              {20, "0.018"},
+              {27, "1.4"},
+              {28, "0.8"}});
     Widget<QLineEdit>(&ar, "txtDados(28)")->setFocus(); // the list scrolls to the row
     Captura(&programa.janela(), "03-calculo-gas");
 
@@ -91,5 +134,50 @@ int main(int argc, char** argv) {
         tabela->raise();
     }
     Captura(&programa.janela(), "05-tabelas-vapor");
+    for (QMdiSubWindow* j : programa.janela().area()->subWindowList())
+        if (qobject_cast<TabelaView*>(j->widget())) j->close();
+
+    // The desk calculator on a field with a value.
+    programa.janela().area()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(agua.parentWidget()));
+    QLineEdit* campo = Widget<QLineEdit>(&agua, "txtDados(18)");
+    QTest::mouseDClick(campo, Qt::LeftButton);
+    Captura(&programa.janela(), "06-calculadora");
+    if (CalculadoraView* c = CalculadoraView::Aberta()) c->Fecha();
+
+    MostraDicasQt(&programa.janela());
+    Captura(&programa.janela(), "07-dica-do-dia");
+    if (QWidget* d = DicaAberta()) d->close();
+    CapturaModal("08-opcoes");
+    MostraOpcoesQt(&programa.janela());
+    CapturaModal("09-sobre");
+    MostraSobreQt(&programa.janela());
+
+    // The splash, over the main window, for its two seconds.
+    AberturaQt abertura;
+    FrmAbertura& f = frmAbertura();
+    f = FrmAbertura{};
+    telaAbertura() = &abertura;
+    FrmAbertura_Load(f);
+    QTimer::singleShot(600, [] { Captura(nullptr, "10-abertura"); });
+    abertura.MostraModal(f);
+    telaAbertura() = nullptr;
+
+    // The data sheet printed to a PDF file, its first page as a picture.
+    QPrinter& impressora = ImpressoraDoPrograma();
+    impressora.setOutputFormat(QPrinter::PdfFormat);
+    const QString pdf = pasta + QStringLiteral("/11-folha-de-dados.pdf");
+    impressora.setOutputFileName(pdf);
+    dialogos.nomes = {"pdf"};
+    FrmRelatorio& r = *Calculos().at(0)->Relatorio;
+    r.txtData = "08:30 - segunda-feira, 23 de novembro de 2026";
+    r.txtOS = "OS-1234";
+    r.txtCliente = "Usina Norte";
+    ImprimeRelatorio(r);
+    const QString png = pasta + QStringLiteral("/11-folha-de-dados");
+    if (QProcess::execute(QStringLiteral("pdftoppm"),
+                          {QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("70"),
+                           QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"),
+                           QStringLiteral("1"), pdf, png}) == 0)
+        std::printf("%s-1.png\n", qPrintable(png));
     return 0;
 }

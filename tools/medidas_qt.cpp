@@ -12,8 +12,12 @@
 #include "shell/mdi_menu.h"
 #include "shell/registro.h"
 
+#include "app/servicos_qt.h"
+#include "report/frm_relatorio.h"
+#include <QDir>
 #include <QElapsedTimer>
 #include <QMdiSubWindow>
+#include <QPrinter>
 
 #include <cstdio>
 #include <sys/resource.h>
@@ -25,7 +29,7 @@ namespace {
 
 // Paints once: the moment the window's first frame is on screen.
 class Pintura : public QObject {
-public:
+  public:
     bool pintou = false;
     bool eventFilter(QObject*, QEvent* e) override {
         if (e->type() == QEvent::Paint) pintou = true;
@@ -55,27 +59,50 @@ int main(int argc, char** argv) {
     if (!programa.Inicia()) return 1;
     CalculoView& v = *programa.janela().VistaCalculo(*Calculos().at(0));
     v.installEventFilter(&pintura);
-    while (!pintura.pintou) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    while (!pintura.pintou)
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     std::printf("primeiro quadro com \"Cálculo 1\": %.1f ms\n", relogio.nsecsElapsed() / 1e6);
 
     caixas.textos = {"Água"};
     Escolhe(Widget<QComboBox>(&v, "cboTramelo"), 0);
     Escolhe(Widget<QComboBox>(&v, "cboFluido"), 0);
     Escolhe(Widget<QComboBox>(&v, "cboTomada"), 0);
-    for (auto [i, t] : std::vector<std::pair<int, const char*>>{
-             {2, "50"}, {4, "102.26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"}, {18, "998"},
-             {20, "1"}, {28, "0.8"}})
-        Digita(Widget<QLineEdit>(&v, QStringLiteral("txtDados(%1)").arg(i)), QString::fromLatin1(t));
+    for (auto [i, t] : std::vector<std::pair<int, const char*>>{{2, "50"},
+                                                                {4, "102.26"},
+                                                                {5, "25000"},
+                                                                {8, "20"},
+                                                                {9, "20"},
+                                                                {17, "998"},
+                                                                {18, "998"},
+                                                                {20, "1"},
+                                                                {28, "0.8"}})
+        Digita(Widget<QLineEdit>(&v, QStringLiteral("txtDados(%1)").arg(i)),
+               QString::fromLatin1(t));
     RelatorioView* r = programa.janela().VistaRelatorio(*Calculos().at(0)->Relatorio);
     Pintura pinturaRelatorio;
     r->installEventFilter(&pinturaRelatorio);
     QElapsedTimer calculo;
     calculo.start();
     Botao(programa.janela(), "tbCalculo", "Calcular");
-    while (!pinturaRelatorio.pintou) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    while (!pinturaRelatorio.pintou)
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     std::printf("\"Calcular\" até o relatório na tela: %.1f ms\n", calculo.nsecsElapsed() / 1e6);
 
     std::printf("memória com 1 cálculo: %.1f MiB\n", PicoKiB() / 1024.0);
+
+    // A 60-line report printed to a PDF file.
+    FrmRelatorio& rel = *Calculos().at(0)->Relatorio;
+    while (rel.lstRelatorio.size() < 60)
+        rel.lstRelatorio.push_back(" linha de teste");
+    QPrinter& impressora = ImpressoraDoPrograma();
+    impressora.setOutputFormat(QPrinter::PdfFormat);
+    impressora.setOutputFileName(QDir::temp().filePath(QStringLiteral("tramelo-medidas.pdf")));
+    dialogos.nomes = {"pdf"};
+    QElapsedTimer impressao;
+    impressao.start();
+    ImprimeRelatorio(rel);
+    std::printf("relatório de 60 linhas impresso em PDF: %.1f ms\n",
+                impressao.nsecsElapsed() / 1e6);
     for (int i = 1; i < 10; ++i) {
         mnuArquivoNew_Click();
         programa.janela().SincronizaTudo();

@@ -1,25 +1,32 @@
 #include "app/programa_qt.h"
 
+#include "app/impressora_qt.h"
 #include "app/ligacao_qt.h"
 #include "app/servicos_qt.h"
 #include "calculator/calculadora_view.h"
 #include "document/calculo_view.h"
-#include "document/entrada.h"
 #include "document/ciclo.h"
+#include "document/entrada.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janelas.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/caixas_view.h"
+#include "report/exportar.h"
+#include "report/frm_relatorio.h"
+#include "report/impressao.h"
+#include "shell/abertura_view.h"
 #include "shell/barras.h"
+#include "shell/dicas_view.h"
 #include "shell/entrada.h"
 #include "shell/mdi_menu.h"
 #include "shell/mdi_menu_view.h"
 #include "shell/mod_base.h"
+#include "shell/opcoes_view.h"
 #include "steam/tabela_view.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QIcon>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -39,6 +46,8 @@ ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
         ambiente().dialogos = dialogos_.get();
         ligacao_ = std::make_unique<LigacaoQt>();
         ligacaoInstancias() = ligacao_.get();
+        abertura_ = std::make_unique<AberturaQt>();
+        telaAbertura() = abertura_.get();
     }
     telaMenu() = this;
     // One run of the program: its frame and its numbering start afresh.
@@ -58,6 +67,13 @@ ProgramaQt::~ProgramaQt() {
     telaMenu() = nullptr;
     mnuAjudaDocumentacaoTabela = nullptr;
     AbreCalculadora = nullptr;
+    MostraSobre = nullptr;
+    MostraDicas = nullptr;
+    MostraOpcoes = nullptr;
+    ConfiguraImpressao = nullptr;
+    ExportaRelatorio = nullptr;
+    ImprimeRelatorio = nullptr;
+    if (telaAbertura() == abertura_.get()) telaAbertura() = nullptr;
     CalculadoraView::aoEscrever = nullptr;
     EncerraProcesso = nullptr;
     if (ligacao_) ligacaoInstancias() = nullptr;
@@ -84,6 +100,18 @@ void ProgramaQt::Carrega() {
         CalculadoraView::Abre(f, indice, v ? v->CampoDados(indice) : nullptr, janela_.get());
     };
     CalculadoraView::aoEscrever = [this] { janela_->SincronizaTudo(); };
+    // The shell's windows and the report's paper and file.
+    MostraSobre = [this] { MostraSobreQt(janela_.get()); };
+    MostraDicas = [this] { MostraDicasQt(janela_.get()); };
+    MostraOpcoes = [this] { MostraOpcoesQt(janela_.get()); };
+    ConfiguraImpressao = [] { mnuArquivoConfigurarImpressao_Click(); };
+    ExportaRelatorio = [](FrmRelatorio& r) { mnuArquivoExportarRelatorio_Click(r); };
+    ImprimeRelatorio = [](FrmRelatorio& r) {
+        ImpressoraQt impressora(ImpressoraDoPrograma());
+        impressoraInstalada() = &impressora;
+        mnuArquivoImprimir_Click(r);
+        impressoraInstalada() = nullptr;
+    };
     // Each click makes one more table window; nothing keeps a reference.
     mnuAjudaDocumentacaoTabela = [this](int indice) {
         auto* tabela = new TabelaView;

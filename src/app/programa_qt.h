@@ -14,6 +14,7 @@ class CaixasQt;
 class DialogosQt;
 class SistemaQt;
 class LigacaoQt;
+class AberturaQt;
 
 class ProgramaQt : public TelaMenu {
   public:
@@ -40,6 +41,7 @@ class ProgramaQt : public TelaMenu {
     std::unique_ptr<DialogosQt> dialogos_;
     std::unique_ptr<SistemaQt> sistema_;
     std::unique_ptr<LigacaoQt> ligacao_;
+    std::unique_ptr<AberturaQt> abertura_;
     std::unique_ptr<MdiMenuView> janela_;
     bool segundaInstancia_ = false;
 };
