@@ -105,7 +105,16 @@ void ProgramaQt::Carrega() {
     MostraDicas = [this] { MostraDicasQt(janela_.get()); };
     MostraOpcoes = [this] { MostraOpcoesQt(janela_.get()); };
     ConfiguraImpressao = [] { mnuArquivoConfigurarImpressao_Click(); };
-    ExportaRelatorio = [](FrmRelatorio& r) { mnuArquivoExportarRelatorio_Click(r); };
+    ExportaRelatorio = [](FrmRelatorio& r) {
+        // A reports folder that can't be made has no handler of its own: the
+        // error box, and the report window usable again.
+        try {
+            mnuArquivoExportarRelatorio_Click(r);
+        } catch (const Falha& e) {
+            r.Enabled = true;
+            InformaErro(e);
+        }
+    };
     ImprimeRelatorio = [](FrmRelatorio& r) {
         ImpressoraQt impressora(ImpressoraDoPrograma());
         impressoraInstalada() = &impressora;

@@ -33,6 +33,7 @@ void DefinePastas(const std::string& pastaPrograma) {
 }
 
 void InformaErro(const ErroExecucao& erro) {
+    MousePointer(vbDefault);
     MsgBox("Descrição do Erro: " + erro.descricao + "\n\n" +
                "Em caso de dúvidas, informe o código e descrição do erro ao fabricante do software",
            vbCritical + vbOKOnly, "Informação de Erro Código :" + std::to_string(erro.numero));

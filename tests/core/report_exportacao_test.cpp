@@ -12,7 +12,7 @@ namespace tramelo {
 namespace {
 
 class RelogioFixo : public Relogio {
-public:
+  public:
     Momento m;
     Momento Agora() override { return m; }
 };

@@ -181,7 +181,10 @@ TEST_F(ReportExportar, CancelamentoEFalhasAntesDeEscrever) {
         EXPECT_TRUE(sistema.abertos.empty());
         EXPECT_TRUE(r.Enabled);
         EXPECT_TRUE(r.Visible);
-        EXPECT_EQ(sistema.ponteiros, (std::vector<int>{vbHourglass, vbDefault}));
+        // The error box puts the default pointer back once more.
+        std::vector<int> ponteiros{vbHourglass, vbDefault};
+        if (!c.titulo.empty()) ponteiros.push_back(vbDefault);
+        EXPECT_EQ(sistema.ponteiros, ponteiros);
         if (c.titulo.empty()) {
             EXPECT_TRUE(caixas.mostradas.empty());
         } else {

@@ -23,7 +23,6 @@ class DialogosRoteiro : public Dialogos {
     bool ShowOpen(ConfiguraDialogo& d) override { return Responde(d); }
     bool ShowSave(ConfiguraDialogo& d) override { return Responde(d); }
     bool ShowPrinter(ConfiguraDialogo& d) override {
-        mostrados.push_back(d);
         d.Copies = copias;
         return Responde(d);
     }
