@@ -40,8 +40,9 @@ int main(int argc, char** argv) {
     bool json = false, sim = false;
     std::vector<std::string> arquivos;
     app.add_flag("--json", json, "Saída em JSON: um objeto por arquivo");
-    app.add_flag("--sim", sim,
-                 "Responde \"Sim\" a \"Deseja alterar o dados para cálculo?\" (o padrão é \"Não\")");
+    app.add_flag(
+        "--sim", sim,
+        "Responde \"Sim\" a \"Deseja alterar o dados para cálculo?\" (o padrão é \"Não\")");
     app.add_option("ARQUIVO", arquivos, "Arquivos de cálculo (.trl)")->required();
     try {
         app.parse(argc, argv);
@@ -68,18 +69,23 @@ int main(int argc, char** argv) {
             objeto["arquivo"] = r.arquivo;
             objeto["linhas"] = r.linhas;
             nlohmann::json mensagens = nlohmann::json::array();
-            for (const auto& m : r.mensagens) mensagens.push_back({{"titulo", m.titulo}, {"texto", m.texto}});
+            for (const auto& m : r.mensagens)
+                mensagens.push_back({{"titulo", m.titulo}, {"texto", m.texto}});
             objeto["mensagens"] = std::move(mensagens);
             objeto["concluido"] = r.concluido;
-            if (r.erro) objeto["erro"] = {{"numero", r.erro->numero}, {"descricao", r.erro->descricao}};
-            else objeto["erro"] = nullptr;
+            if (r.erro)
+                objeto["erro"] = {{"numero", r.erro->numero}, {"descricao", r.erro->descricao}};
+            else
+                objeto["erro"] = nullptr;
             saida.push_back(std::move(objeto));
         } else {
             if (k > 0) std::cout << "\n";
-            for (const std::string& l : r.exportacao) std::cout << l << "\n";
+            for (const std::string& l : r.exportacao)
+                std::cout << l << "\n";
         }
     }
-    if (json) std::cout << saida.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
+    if (json)
+        std::cout << saida.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
     std::cout.flush();
     return status;
 }
