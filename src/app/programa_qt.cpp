@@ -167,7 +167,29 @@ void ProgramaQt::DescarregaOutras() {
         if (w != janela_.get() && w->isVisible()) w->close();
 }
 
+namespace {
+
+// A running first instance, asked before any window system is brought up: a
+// second start then hands its command line over with no more than the
+// event loop of a plain core application, and ends.
+bool EntregaASegunda(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    LigacaoQt ligacao;
+    if (!ligacao.OutraInstancia()) return false;
+    DefineLinhaComando(argc, argv);
+    ligacaoInstancias() = &ligacao;
+    bool entregue = false;
+    EncerraProcesso = [&entregue] { entregue = true; };
+    Main();
+    EncerraProcesso = nullptr;
+    ligacaoInstancias() = nullptr;
+    return entregue;
+}
+
+} // namespace
+
 int ExecutaPrograma(int argc, char** argv) {
+    if (EntregaASegunda(argc, argv)) return 0;
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tramelo"));
     QApplication::setApplicationVersion(QStringLiteral("2.0.1"));
