@@ -12,6 +12,7 @@
 #include "shell/abertura.h"
 #include "shell/abertura_view.h"
 #include "shell/dicas_view.h"
+#include "shell/entrada.h"
 #include "shell/mdi_menu.h"
 #include "shell/opcoes_view.h"
 #include "shell/registro.h"
@@ -79,6 +80,9 @@ int main(int argc, char** argv) {
     // A new calculation at start, rather than the tip of the day.
     DefinePastasRegistro(PastaConfiguracaoUsuario(), ".");
     GravaConfig("Config", "DicasIniciar", "0");
+    // The tips file ships beside the executables of the build.
+    const char* argumentos[] = {argv[0]};
+    DefineLinhaComando(1, argumentos);
     if (!programa.Inicia()) return 1;
     programa.janela().resize(1000, 760);
     programa.janela().activateWindow();
