@@ -56,7 +56,10 @@ int main(int argc, char** argv) {
     DefinePastasRegistro(PastaConfiguracaoUsuario(), ".");
     GravaConfig("Config", "DicasIniciar", "0");
     Pintura pintura;
+    const double antes = relogio.nsecsElapsed() / 1e6;
     if (!programa.Inicia()) return 1;
+    std::printf("(aplicação pronta em %.1f ms; subida do programa %.1f ms)\n", antes,
+                relogio.nsecsElapsed() / 1e6 - antes);
     CalculoView& v = *programa.janela().VistaCalculo(*Calculos().at(0));
     v.installEventFilter(&pintura);
     while (!pintura.pintou)

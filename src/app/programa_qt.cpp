@@ -15,6 +15,7 @@
 #include "report/frm_relatorio.h"
 #include "report/impressao.h"
 #include "shell/abertura_view.h"
+#include "shell/associacao.h"
 #include "shell/barras.h"
 #include "shell/dicas_view.h"
 #include "shell/entrada.h"
@@ -30,6 +31,8 @@
 #include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QProcess>
+#include <QStandardPaths>
 
 namespace tramelo {
 
@@ -50,6 +53,15 @@ ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
         telaAbertura() = abertura_.get();
     }
     telaMenu() = this;
+    // The desktop's databases are refreshed in the background: the start
+    // doesn't wait for them.
+    ExecutaFerramenta = [](const std::string& programa, const std::vector<std::string>& argumentos) {
+        const QString caminho = QStandardPaths::findExecutable(QString::fromStdString(programa));
+        if (caminho.isEmpty()) return;
+        QStringList lista;
+        for (const std::string& a : argumentos) lista << QString::fromStdString(a);
+        QProcess::startDetached(caminho, lista);
+    };
     // One run of the program: its frame and its numbering start afresh.
     mdiMenu() = MdiMenu{};
     ContadorCalculos() = 0;
@@ -65,6 +77,7 @@ ProgramaQt::~ProgramaQt() {
     filhoAtivo() = {};
     Calculos().clear();
     telaMenu() = nullptr;
+    ExecutaFerramenta = nullptr;
     mnuAjudaDocumentacaoTabela = nullptr;
     AbreCalculadora = nullptr;
     MostraSobre = nullptr;

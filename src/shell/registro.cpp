@@ -194,7 +194,11 @@ bool Grava(uint32_t raiz, const std::string& chave, const std::string& valor, in
         Json& objetoChave = k ? arvore[*k] : arvore[chave];
         if (!objetoChave.is_object()) objetoChave = Json::object();
         const std::string* v = Procura(objetoChave, valor);
-        objetoChave[v ? *v : valor] = {{"tipo", tipo}, {"dados", DadosParaJson(tipo, bytes)}};
+        Json novo = {{"tipo", tipo}, {"dados", DadosParaJson(tipo, bytes)}};
+        // The same value already stored: nothing to write (the start writes
+        // the association's entries every time).
+        if (v && objetoChave[*v] == novo && r.estado != EstadoRaiz::Danificada) return true;
+        objetoChave[v ? *v : valor] = std::move(novo);
         return GravaRaiz(arquivo, arvore);
     } catch (...) {
         return false;
