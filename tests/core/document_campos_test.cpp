@@ -1,5 +1,6 @@
 // Rows in and out of use by fluid, their unit lists and their layout.
 #include "caixas_roteiro.h"
+#include "calculo_pronto.h"
 #include "document/campos.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janela.h"
@@ -16,23 +17,6 @@
 
 namespace tramelo::teste {
 namespace {
-
-std::unique_ptr<FrmCalcTramelo> Carregado() {
-    CarregaCatalogo();
-    mdiMenu() = MdiMenu{};
-    auto f = std::make_unique<FrmCalcTramelo>();
-    Form_Load(*f);
-    return f;
-}
-
-// The three selections, as a user makes them, with the fluid left unnamed.
-std::unique_ptr<FrmCalcTramelo> Escolhido(int fluido) {
-    auto f = Carregado();
-    f->cboTramelo.DefineListIndex(0);
-    f->cboFluido.DefineListIndex(fluido);
-    f->cboTomada.DefineListIndex(0);
-    return f;
-}
 
 TEST(DocumentCampos, LeiauteDosTresFluidos) {
     // Row 1 is the density mode, placed just above the first row in use from 17 on.

@@ -1,6 +1,7 @@
 // Typing into the rows: the key filter, the material rule and the scrolling
 // that follows the focus.
 #include "caixas_roteiro.h"
+#include "calculo_pronto.h"
 #include "document/campos.h"
 #include "document/entrada.h"
 #include "document/frm_calc_tramelo.h"
@@ -16,18 +17,6 @@
 
 namespace tramelo::teste {
 namespace {
-
-std::unique_ptr<FrmCalcTramelo> Escolhido(int fluido) {
-    CarregaCatalogo();
-    mdiMenu() = MdiMenu{};
-    CaixasRoteiro semNome;
-    auto f = std::make_unique<FrmCalcTramelo>();
-    Form_Load(*f);
-    f->cboTramelo.DefineListIndex(0);
-    f->cboFluido.DefineListIndex(fluido);
-    f->cboTomada.DefineListIndex(0);
-    return f;
-}
 
 // Types a text key by key into a row, as the field would take it.
 void Digita(FrmCalcTramelo& f, int i, const std::string& teclas) {

@@ -1,6 +1,7 @@
 // The calculation window's load, activation and deactivation, and how its
 // state reaches the frame's bars.
 #include "caixas_roteiro.h"
+#include "calculo_pronto.h"
 #include "document/campos.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janela.h"
@@ -16,23 +17,6 @@
 
 namespace tramelo::teste {
 namespace {
-
-std::unique_ptr<FrmCalcTramelo> Carregado() {
-    CarregaCatalogo();
-    mdiMenu() = MdiMenu{};
-    auto f = std::make_unique<FrmCalcTramelo>();
-    Form_Load(*f);
-    return f;
-}
-
-std::unique_ptr<FrmCalcTramelo> Escolhido() {
-    CaixasRoteiro semNome;
-    auto f = Carregado();
-    f->cboTramelo.DefineListIndex(0);
-    f->cboFluido.DefineListIndex(0);
-    f->cboTomada.DefineListIndex(0);
-    return f;
-}
 
 std::vector<std::string> Textos(const CaixaCombinacao& c) {
     std::vector<std::string> t;

@@ -1,5 +1,6 @@
 // The click handling of the selections, the density mode and the units.
 #include "caixas_roteiro.h"
+#include "calculo_pronto.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janela.h"
 #include "document/selecoes.h"
@@ -41,23 +42,6 @@ struct Entradas : Caixas {
     }
     Caixas* anterior;
 };
-
-std::unique_ptr<FrmCalcTramelo> Carregado() {
-    CarregaCatalogo();
-    mdiMenu() = MdiMenu{};
-    auto f = std::make_unique<FrmCalcTramelo>();
-    Form_Load(*f);
-    return f;
-}
-
-std::unique_ptr<FrmCalcTramelo> Escolhido(int fluido) {
-    CaixasRoteiro semNome;
-    auto f = Carregado();
-    f->cboTramelo.DefineListIndex(0);
-    f->cboFluido.DefineListIndex(fluido);
-    f->cboTomada.DefineListIndex(0);
-    return f;
-}
 
 TEST(DocumentSelecoes, NomeDoFluido) {
     // The proposal is the bracketed type of a named item, or the type and

@@ -7,6 +7,7 @@
 #include "caixas_roteiro.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janela.h"
+#include "shell/barras.h"
 #include "sizing/catalogo.h"
 
 #include <memory>
@@ -16,17 +17,28 @@
 
 namespace tramelo::teste {
 
-inline std::unique_ptr<FrmCalcTramelo> CalculoPronto(int fluido, int tomada, int placa = 1) {
+// A window after its load, the frame at its design state.
+inline std::unique_ptr<FrmCalcTramelo> Carregado() {
     CarregaCatalogo();
+    mdiMenu() = MdiMenu{};
     auto f = std::make_unique<FrmCalcTramelo>();
-    {
-        // Its own answers, so the fluid's name box stays out of the caller's script.
-        CaixasRoteiro semNome;
-        Form_Load(*f);
-        f->cboTramelo.DefineListIndex(placa - 1);
-        f->cboFluido.DefineListIndex(fluido);
-        f->cboTomada.DefineListIndex(tomada - 1);
-    }
+    Form_Load(*f);
+    return f;
+}
+
+// The three selections made through their lists, the fluid left unnamed.
+inline std::unique_ptr<FrmCalcTramelo> Escolhido(int fluido = 0, int tomada = 1, int placa = 1) {
+    // Its own answers, so the fluid's name box stays out of the caller's script.
+    CaixasRoteiro semNome;
+    auto f = Carregado();
+    f->cboTramelo.DefineListIndex(placa - 1);
+    f->cboFluido.DefineListIndex(fluido);
+    f->cboTomada.DefineListIndex(tomada - 1);
+    return f;
+}
+
+inline std::unique_ptr<FrmCalcTramelo> CalculoPronto(int fluido, int tomada, int placa = 1) {
+    auto f = Escolhido(fluido, tomada, placa);
     f->Caption = "Cálculo 1";
     return f;
 }
