@@ -17,7 +17,7 @@ namespace tramelo::teste {
 namespace {
 
 class DocumentArquivo : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         DefinePastas(pasta.str());
         canal1().Reinicia();
@@ -34,8 +34,15 @@ protected:
             f->cboFluido.DefineListIndex(0);
         }
         f->txtTag.DefineTexto("FT-2301");
-        Preenche(*f, {{2, "1200"}, {4, "154,05"}, {5, "2500"}, {8, "20"}, {9, "35"}, {17, "998"},
-                      {18, "994"}, {20, "0,72"}, {28, "0,7"}});
+        Preenche(*f, {{2, "1200"},
+                      {4, "154,05"},
+                      {5, "2500"},
+                      {8, "20"},
+                      {9, "35"},
+                      {17, "998"},
+                      {18, "994"},
+                      {20, "0,72"},
+                      {28, "0,7"}});
         f->cboDados(5)->DefineListIndex(2);
         return f;
     }
@@ -52,10 +59,11 @@ protected:
     DialogosRoteiro dialogos;
 };
 
-const char* const ArquivoExemplo = "\"\"\r\n\"\"\r\n\"\"\r\n0\r\n0,  \"Água (Liqüido)\"\r\n0\r\n"
-                                   "\"FT-2301\"\r\n2,\"1200\",0\r\n4,\"154,05\",0\r\n5,\"2500\",2\r\n"
-                                   "8,\"20\",0\r\n9,\"35\",0\r\n17,\"998\",0\r\n18,\"994\",0\r\n"
-                                   "20,\"0,72\",0\r\n28,\"0,7\",0\r\n29,\"1,00051\",0\r\n";
+const char* const ArquivoExemplo =
+    "\"\"\r\n\"\"\r\n\"\"\r\n0\r\n0,  \"Água (Liqüido)\"\r\n0\r\n"
+    "\"FT-2301\"\r\n2,\"1200\",0\r\n4,\"154,05\",0\r\n5,\"2500\",2\r\n"
+    "8,\"20\",0\r\n9,\"35\",0\r\n17,\"998\",0\r\n18,\"994\",0\r\n"
+    "20,\"0,72\",0\r\n28,\"0,7\",0\r\n29,\"1,00051\",0\r\n";
 
 TEST_F(DocumentArquivo, ExemploByteAByteEDeVolta) {
     auto f = Exemplo();
@@ -93,8 +101,15 @@ TEST_F(DocumentArquivo, IdaEVoltaDeGasEVapor) {
     for (int fluido : {1, 2}) {
         auto f = CalculoPronto(fluido, 4, 2);
         f->txtTag.DefineTexto("FE, 101");
-        Preenche(*f, {{2, "1000"}, {4, "102,26"}, {5, "10000"}, {9, "40"}, {12, "5,1"},
-                      {16, ""}, {20, "0,018"}, {27, "1,4"}, {28, "0,8"}});
+        Preenche(*f, {{2, "1000"},
+                      {4, "102,26"},
+                      {5, "10000"},
+                      {9, "40"},
+                      {12, "5,1"},
+                      {16, ""},
+                      {20, "0,018"},
+                      {27, "1,4"},
+                      {28, "0,8"}});
         f->cboDados(12)->DefineListIndex(1);
         f->Relatorio->txtCliente = "Cliente, \"A\"";
         f->TextoCliente = "Usina";

@@ -21,7 +21,7 @@ namespace tramelo::teste {
 namespace {
 
 class DocumentCiclo : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         CarregaCatalogo();
         DefinePastas(pasta.str());
@@ -93,7 +93,7 @@ TEST_F(DocumentCiclo, NomesDerivadosDePastaELegenda) {
     EXPECT_TRUE(ExisteArquivo(fora + "/b.trl"));
     EXPECT_EQ(f.Caption, "Cálculo 1");
     EXPECT_EQ(f.ArquivoCalculo, modBase().PastaSaves + "/Cálculo 1");
-    EXPECT_FALSE(f.ArquivoExiste); // still file-less: "Salvar" asks again
+    EXPECT_FALSE(f.ArquivoExiste);             // still file-less: "Salvar" asks again
     EXPECT_EQ(FilesMRU()[0], fora + "/b.trl"); // the path really used
 
     // Opened from another folder: the first Atualiza keeps the whole path

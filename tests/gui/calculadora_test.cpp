@@ -1,14 +1,10 @@
 // The desk calculator opened at a data field, as a user meets it.
-#include "caixas_roteiro.h"
-#include "dialogos_roteiro.h"
-#include "pasta_temporaria.h"
+#include "programa_de_teste.h"
 #include "usuario_qt.h"
 
 #include "app/programa_qt.h"
 #include "calculator/calculadora_view.h"
 #include "document/frm_calc_tramelo.h"
-#include "plataforma/canal.h"
-#include "shell/registro.h"
 
 #include <gtest/gtest.h>
 
@@ -18,13 +14,7 @@ namespace {
 class Calculadora : public ::testing::Test {
   protected:
     void SetUp() override {
-        qputenv("XDG_DATA_HOME", pasta.str().c_str());
-        qputenv("XDG_CONFIG_HOME", pasta.str().c_str());
-        canal1().Reinicia();
-        programa = std::make_unique<ProgramaQt>(false);
-        DefinePastasRegistro(PastaConfiguracaoUsuario(), pasta.str());
-        GravaConfig("Config", "DicasIniciar", "0");
-        ASSERT_TRUE(programa->Inicia());
+        ASSERT_TRUE(t.Inicia());
         CalculoView& v = *programa->janela().VistaCalculo(*Calculos().at(0));
         Escolhe(Widget<QComboBox>(&v, "cboTramelo"), 0);
         Escolhe(Widget<QComboBox>(&v, "cboFluido"), 0);
@@ -34,7 +24,6 @@ class Calculadora : public ::testing::Test {
     void TearDown() override {
         if (CalculadoraView* c = CalculadoraView::Aberta()) c->close();
         QApplication::processEvents();
-        programa.reset();
     }
     FrmCalcTramelo& f() { return *Calculos().at(0); }
     // A key pressed and released on the calculator.
@@ -45,10 +34,9 @@ class Calculadora : public ::testing::Test {
         QApplication::processEvents();
     }
 
-    PastaTemporaria pasta;
-    CaixasRoteiro caixas;
-    DialogosRoteiro dialogos;
-    std::unique_ptr<ProgramaQt> programa;
+    ProgramaDeTeste t;
+    std::unique_ptr<ProgramaQt>& programa = t.programa;
+    CaixasRoteiro& caixas = t.caixas;
     QLineEdit* campo = nullptr;
 };
 

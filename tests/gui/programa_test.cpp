@@ -1,7 +1,5 @@
 // The desktop program end to end, driven the way a user drives it.
-#include "caixas_roteiro.h"
-#include "dialogos_roteiro.h"
-#include "pasta_temporaria.h"
+#include "programa_de_teste.h"
 #include "usuario_qt.h"
 
 #include "app/programa_qt.h"
@@ -27,19 +25,7 @@ namespace {
 
 class Programa : public ::testing::Test {
   protected:
-    void SetUp() override {
-        qputenv("XDG_DATA_HOME", pasta.str().c_str());
-        qputenv("XDG_CONFIG_HOME", pasta.str().c_str());
-        mdiMenu() = MdiMenu{};
-        FilesMRU() = {};
-        canal1().Reinicia();
-        programa = std::make_unique<ProgramaQt>(false);
-        DefinePastasRegistro(PastaConfiguracaoUsuario(), pasta.str());
-        GravaConfig("Config", "DicasIniciar", "0");
-        ASSERT_TRUE(programa->Inicia());
-        caixas.mostradas.clear(); // the association's question at start
-    }
-    void TearDown() override { programa.reset(); }
+    void SetUp() override { ASSERT_TRUE(t.Inicia()); }
 
     MdiMenuView& janela() { return programa->janela(); }
     FrmCalcTramelo& calculo(size_t i = 0) { return *Calculos().at(i); }
@@ -83,10 +69,11 @@ class Programa : public ::testing::Test {
         return l;
     }
 
-    PastaTemporaria pasta;
-    CaixasRoteiro caixas;
-    DialogosRoteiro dialogos;
-    std::unique_ptr<ProgramaQt> programa;
+    ProgramaDeTeste t;
+    PastaTemporaria& pasta = t.pasta;
+    CaixasRoteiro& caixas = t.caixas;
+    DialogosRoteiro& dialogos = t.dialogos;
+    std::unique_ptr<ProgramaQt>& programa = t.programa;
 };
 
 TEST_F(Programa, CalculaSalvaFechaEReabre) {

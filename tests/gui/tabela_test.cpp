@@ -1,12 +1,8 @@
 // The steam table windows, opened from the help menu.
-#include "caixas_roteiro.h"
-#include "dialogos_roteiro.h"
-#include "pasta_temporaria.h"
+#include "programa_de_teste.h"
 #include "usuario_qt.h"
 
 #include "app/programa_qt.h"
-#include "plataforma/canal.h"
-#include "shell/registro.h"
 #include "steam/tabela_view.h"
 
 #include <QHeaderView>
@@ -19,16 +15,9 @@ namespace tramelo::teste {
 namespace {
 
 TEST(Tabela, DuasJanelasPorDoisCliquesEAGrade) {
-    PastaTemporaria pasta;
-    qputenv("XDG_DATA_HOME", pasta.str().c_str());
-    qputenv("XDG_CONFIG_HOME", pasta.str().c_str());
-    canal1().Reinicia();
-    CaixasRoteiro caixas;
-    DialogosRoteiro dialogos;
-    ProgramaQt programa(false);
-    DefinePastasRegistro(PastaConfiguracaoUsuario(), pasta.str());
-    GravaConfig("Config", "DicasIniciar", "0");
-    ASSERT_TRUE(programa.Inicia());
+    ProgramaDeTeste t;
+    ASSERT_TRUE(t.Inicia());
+    ProgramaQt& programa = *t.programa;
 
     for (int vez = 0; vez < 2; ++vez)
         Entrada(programa.janela(), {"Aj&uda", "D&ocumentação", "&Massa do Vapor Superaquecido"})
