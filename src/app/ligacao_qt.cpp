@@ -3,6 +3,7 @@
 #include "plataforma/caixas.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 
@@ -16,7 +17,13 @@ LigacaoQt::~LigacaoQt() = default;
 QString LigacaoQt::NomeSocket(const std::string& servicoTopico) {
     QString nome = QString::fromStdString(servicoTopico);
     nome.replace(QLatin1Char('|'), QLatin1Char('.'));
-    return nome + QStringLiteral(".%1").arg(getuid());
+    nome += QStringLiteral(".%1").arg(getuid());
+    // The session's runtime folder is private to the user and to the login,
+    // so two sessions of one user (or a test run beside the user's own copy)
+    // never meet; without one, Qt puts the socket in the temporary folder.
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!runtime.isEmpty() && QFileInfo(runtime).isDir()) return runtime + QLatin1Char('/') + nome;
+    return nome;
 }
 
 bool LigacaoQt::OutraInstancia() {

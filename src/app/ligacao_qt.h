@@ -25,7 +25,8 @@ class LigacaoQt : public QObject, public LigacaoInstancias {
     void Atende(const std::string& servicoTopico,
                 std::function<void(const std::string&)> recebe) override;
 
-    // The socket's name for a "service|topic": one per user of the machine.
+    // The socket's name for a "service|topic": one per user and session, in
+    // $XDG_RUNTIME_DIR when the session has one.
     static QString NomeSocket(const std::string& servicoTopico);
 
   private:

@@ -164,6 +164,19 @@ void CalculadoraView::Solta(int tecla) {
 }
 
 void CalculadoraView::Executa(int tecla) {
+    QPointer<CalculadoraView> vivo(this);
+    emHandler_ = true;
+    ExecutaHandler(tecla);
+    if (!vivo) return;
+    emHandler_ = false;
+    // The division by zero's box had the activation; the keys come back here.
+    if (isVisible() && !fechando_ && !isActiveWindow()) {
+        raise();
+        activateWindow();
+    }
+}
+
+void CalculadoraView::ExecutaHandler(int tecla) {
     std::optional<ErroExecucao> erro;
     if (tecla <= 9) {
         Number_Click(calc_, static_cast<short>(tecla));
@@ -196,6 +209,10 @@ void CalculadoraView::Executa(int tecla) {
         InformaErro(*erro);
         Fecha();
     }
+}
+
+void CalculadoraView::Esquece(const FrmCalcTramelo& f) {
+    if (FormPai == &f) Fecha();
 }
 
 void CalculadoraView::Fecha() {
@@ -270,7 +287,8 @@ void CalculadoraView::keyReleaseEvent(QKeyEvent* e) {
 
 void CalculadoraView::changeEvent(QEvent* e) {
     // Losing the activation is the only cancel: it closes, writing nothing.
-    if (e->type() == QEvent::ActivationChange && !isActiveWindow() && isVisible() && !fechando_) {
+    if (e->type() == QEvent::ActivationChange && !isActiveWindow() && isVisible() && !fechando_ &&
+        !emHandler_) {
         QMetaObject::invokeMethod(this, &CalculadoraView::Fecha, Qt::QueuedConnection);
     }
     QWidget::changeEvent(e);

@@ -51,20 +51,29 @@ class CalculadoraView : public QWidget {
     void Pressiona(int tecla);
     void Solta(int tecla);
     void Executa(int tecla);
+    void ExecutaHandler(int tecla);
     void Botao(BotaoCalculadora* imagem, int face);
     void Mostra();
 
   public:
     // Closes the calculator, writing nothing.
     void Fecha();
+    // The calculation `f` is unloading: the calculator, open on one of its
+    // fields, closes with nothing written.
+    void Esquece(const FrmCalcTramelo& f);
 
     Calculadora calc_;
+    // The calculation that opened it: the core's record, alive until its
+    // unload, which calls Esquece first.
     FrmCalcTramelo* FormPai = nullptr;
     int indice_ = -1;
     QLabel* Readout_;
     std::array<BotaoCalculadora*, 19> botoes_{};
     BotaoCalculadora* BotaoAtual = nullptr;
     bool fechando_ = false;
+    // A handler of the engine is running: a box it shows takes the
+    // activation, and that isn't the user leaving the calculator.
+    bool emHandler_ = false;
 };
 
 } // namespace tramelo

@@ -90,6 +90,8 @@ CalculoView::CalculoView(FrmCalcTramelo& registro, QWidget* pai)
     txtTag_->setMaxLength(20);
     txtTag_->setGeometry(Px(165, this), Px(2, this), Px(149, this), Px(21, this));
     txtTag_->installEventFilter(this);
+    // The caption names its field for a screen reader.
+    lblTag_->setBuddy(txtTag_);
     QWidget* p1 = faixa(1);
     lblMassaDensidade_ = new QLabel(Q(registro_.lblMassaDensidade.Caption), p1);
     lblMassaDensidade_->setGeometry(Px(4, this), 0, Px(160, this), Px(AlturaLinha, this));
@@ -109,6 +111,7 @@ CalculoView::CalculoView(FrmCalcTramelo& registro, QWidget* pai)
         t->setObjectName(QStringLiteral("txtDados(%1)").arg(i));
         t->installEventFilter(this);
         txtDados_[static_cast<size_t>(i)] = t;
+        l->setBuddy(t);
         if (registro_.cboDados(i)) {
             auto* c = new QComboBox(p);
             c->setGeometry(Px(316, this), Px(1, this), Px(114, this), Px(23, this));

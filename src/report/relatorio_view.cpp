@@ -135,13 +135,12 @@ void RelatorioView::Sincroniza() {
 }
 
 void RelatorioView::closeEvent(QCloseEvent* e) {
-    // A user's close hides the report; the calculation's unload ends it.
-    if (e->spontaneous()) {
-        e->ignore();
-        emit pedeOcultar();
-        return;
-    }
-    QWidget::closeEvent(e);
+    // Every close that reaches the view is a user's: the title bar's button
+    // and the system menu come through the MDI window as a close of its
+    // widget. It hides the report; the calculation's unload removes the
+    // window without a close event.
+    e->ignore();
+    emit pedeOcultar();
 }
 
 } // namespace tramelo

@@ -1,5 +1,6 @@
 #include "shell/mdi_menu_view.h"
 
+#include "calculator/calculadora_view.h"
 #include "document/calculo_view.h"
 #include "document/ciclo.h"
 #include "document/entrada.h"
@@ -171,10 +172,14 @@ void MdiMenuView::Carregada(FrmCalcTramelo& f) {
     auto* vc = new CalculoView(f);
     QMdiSubWindow* jc = area_->addSubWindow(vc, FlagsFilho());
     jc->setWindowIcon(QApplication::windowIcon());
-    jc->hide();
     auto* vr = new RelatorioView(*f.Relatorio);
     QMdiSubWindow* jr = area_->addSubWindow(vr, FlagsFilho());
-    jr->hide();
+    // The area marks the windows it makes delete-on-close; these two live
+    // until the record unloads them, a close by the user only asks.
+    for (QMdiSubWindow* j : {jc, jr}) {
+        j->setAttribute(Qt::WA_DeleteOnClose, false);
+        j->hide();
+    }
     FrmCalcTramelo* p = &f;
     connect(vc, &CalculoView::pedeFechar, this,
             [this, p] { Acao([p] { mnuArquivoFechar_Click(*p); }); });
@@ -187,7 +192,7 @@ void MdiMenuView::Carregada(FrmCalcTramelo& f) {
 
 void MdiMenuView::Mostra(FrmCalcTramelo& f) {
     for (Par& par : pares_) {
-        if (par.registro != &f) continue;
+        if (par.registro != &f || !par.inteiro()) continue;
         par.calculo->Sincroniza();
         par.janelaCalculo->adjustSize();
         par.janelaCalculo->show();
@@ -206,10 +211,12 @@ void MdiMenuView::Descarregada(FrmCalcTramelo& f) {
         if (a.calculo == &f) a.calculo = nullptr;
         if (a.relatorio == f.Relatorio.get()) a.relatorio = nullptr;
         // Removed without a close event: the record already said its goodbye.
-        area_->removeSubWindow(par.janelaRelatorio);
-        area_->removeSubWindow(par.janelaCalculo);
-        par.janelaRelatorio->deleteLater();
-        par.janelaCalculo->deleteLater();
+        if (CalculadoraView* c = CalculadoraView::Aberta()) c->Esquece(f);
+        for (QMdiSubWindow* j : {par.janelaRelatorio.data(), par.janelaCalculo.data()}) {
+            if (!j) continue;
+            area_->removeSubWindow(j);
+            j->deleteLater();
+        }
         break;
     }
 }
@@ -225,13 +232,13 @@ void MdiMenuView::BombeiaEventos() {
 
 CalculoView* MdiMenuView::VistaCalculo(const FrmCalcTramelo& f) const {
     for (const Par& p : pares_)
-        if (p.registro == &f) return p.calculo;
+        if (p.registro == &f) return p.calculo.data();
     return nullptr;
 }
 
 RelatorioView* MdiMenuView::VistaRelatorio(const FrmRelatorio& r) const {
     for (const Par& p : pares_)
-        if (p.registro->Relatorio.get() == &r) return p.relatorio;
+        if (p.registro->Relatorio.get() == &r) return p.relatorio.data();
     return nullptr;
 }
 
@@ -312,6 +319,7 @@ void MdiMenuView::SincronizaTudo() {
             Qt::QueuedConnection);
     }
     for (Par& p : pares_) {
+        if (!p.inteiro()) continue;
         p.calculo->Sincroniza();
         p.janelaCalculo->setWindowTitle(Q(p.registro->Caption));
         p.janelaCalculo->setEnabled(p.registro->Enabled);
@@ -326,10 +334,18 @@ void MdiMenuView::SincronizaTudo() {
             p.janelaRelatorio->show();
             p.janelaRelatorio->raise();
             QMetaObject::invokeMethod(
-                this, [this, j = p.janelaRelatorio] { area_->setActiveSubWindow(j); },
+                this,
+                [this, j = p.janelaRelatorio] {
+                    if (j) area_->setActiveSubWindow(j);
+                },
                 Qt::QueuedConnection);
         } else if (!r.Visible && !p.janelaRelatorio->isHidden()) {
+            const bool eraAtivo = area_->activeSubWindow() == p.janelaRelatorio;
             p.janelaRelatorio->hide();
+            // As a hidden child gives the activation to the one beneath it:
+            // its calculation, so "Calcular" is at hand again.
+            if (eraAtivo && !p.janelaCalculo->isHidden())
+                area_->setActiveSubWindow(p.janelaCalculo);
         }
     }
 }

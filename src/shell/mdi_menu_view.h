@@ -4,23 +4,24 @@
 // operations; a child's menu replaces the frame's while that child is active.
 #pragma once
 
+#include "document/calculo_view.h"
 #include "document/janelas.h"
+#include "report/relatorio_view.h"
 
 #include <QMainWindow>
+#include <QMdiSubWindow>
+#include <QPointer>
 
 #include <functional>
 #include <vector>
 
 class QLabel;
 class QMdiArea;
-class QMdiSubWindow;
 class QMenu;
 class QToolBar;
 
 namespace tramelo {
 
-class CalculoView;
-class RelatorioView;
 class FrmCalcTramelo;
 struct FrmRelatorio;
 
@@ -60,12 +61,16 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo {
 
   private:
     enum class Tipo { Frame, Calculo, Relatorio, Outro };
+    // A calculation's two windows. The record is the core's, alive from
+    // Carregada to Descarregada; the windows belong to the MDI area (Qt's
+    // object tree), so they are held by handles that know when they are gone.
     struct Par {
         FrmCalcTramelo* registro;
-        QMdiSubWindow* janelaCalculo;
-        CalculoView* calculo;
-        QMdiSubWindow* janelaRelatorio;
-        RelatorioView* relatorio;
+        QPointer<QMdiSubWindow> janelaCalculo;
+        QPointer<CalculoView> calculo;
+        QPointer<QMdiSubWindow> janelaRelatorio;
+        QPointer<RelatorioView> relatorio;
+        bool inteiro() const { return janelaCalculo && calculo && janelaRelatorio && relatorio; }
     };
 
     void SincronizaFrame();
@@ -81,7 +86,7 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo {
     QToolBar *tbPadrao_, *tbCalculo_;
     QLabel *status_, *data_, *hora_;
     std::vector<Par> pares_;
-    QMdiSubWindow* ativo_ = nullptr;
+    QPointer<QMdiSubWindow> ativo_;
     Tipo tipoMenu_ = Tipo::Outro;
     bool menusPendentes_ = false;
 };
