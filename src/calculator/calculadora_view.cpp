@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QStyleOptionButton>
+#include <QTimer>
 
 namespace tramelo {
 namespace {
@@ -166,14 +167,22 @@ void CalculadoraView::Solta(int tecla) {
 void CalculadoraView::Executa(int tecla) {
     QPointer<CalculadoraView> vivo(this);
     emHandler_ = true;
+    caixaNoHandler_ = false;
     ExecutaHandler(tecla);
     if (!vivo) return;
     emHandler_ = false;
-    // The division by zero's box had the activation; the keys come back here.
-    if (isVisible() && !fechando_ && !isActiveWindow()) {
-        raise();
-        activateWindow();
-    }
+    if (!caixaNoHandler_ || !isVisible() || fechando_) return;
+    // The division by zero's box had the activation, and the window manager
+    // may hand it back to the main window rather than here: take it back, and
+    // leave the deactivation rule aside until it has come.
+    voltando_ = true;
+    raise();
+    activateWindow();
+    QTimer::singleShot(1000, this, [this] {
+        if (!voltando_) return;
+        voltando_ = false;
+        if (isVisible() && !fechando_ && !isActiveWindow()) Fecha();
+    });
 }
 
 void CalculadoraView::ExecutaHandler(int tecla) {
@@ -274,12 +283,17 @@ void CalculadoraView::keyPressEvent(QKeyEvent* e) {
     // so a key held down doesn't repeat it.
     const int t = TeclaDe(e);
     if (t < 0 || e->isAutoRepeat()) return;
+    teclaPressionada_ = t;
     Pressiona(t);
 }
 
 void CalculadoraView::keyReleaseEvent(QKeyEvent* e) {
     const int t = TeclaDe(e);
     if (t < 0 || e->isAutoRepeat()) return;
+    // Only a key pressed here: the Enter that closed the division's box comes
+    // back released over the calculator, and must not be taken for "=".
+    if (teclaPressionada_ != t) return;
+    teclaPressionada_ = -1;
     QPointer<CalculadoraView> vivo(this);
     Executa(t);
     if (vivo) Solta(t);
@@ -287,9 +301,19 @@ void CalculadoraView::keyReleaseEvent(QKeyEvent* e) {
 
 void CalculadoraView::changeEvent(QEvent* e) {
     // Losing the activation is the only cancel: it closes, writing nothing.
+    if (e->type() == QEvent::ActivationChange && isActiveWindow()) voltando_ = false;
+    if (e->type() == QEvent::ActivationChange && !isActiveWindow() && emHandler_)
+        caixaNoHandler_ = true;
     if (e->type() == QEvent::ActivationChange && !isActiveWindow() && isVisible() && !fechando_ &&
-        !emHandler_) {
-        QMetaObject::invokeMethod(this, &CalculadoraView::Fecha, Qt::QueuedConnection);
+        !emHandler_ && !voltando_) {
+        // Decided once the event is done: an activation that only passed
+        // through another window and came back is no cancel.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (isVisible() && !fechando_ && !voltando_ && !isActiveWindow()) Fecha();
+            },
+            Qt::QueuedConnection);
     }
     QWidget::changeEvent(e);
 }

@@ -74,6 +74,9 @@ class CalculadoraView : public QWidget {
     // A handler of the engine is running: a box it shows takes the
     // activation, and that isn't the user leaving the calculator.
     bool emHandler_ = false;
+    bool caixaNoHandler_ = false; // the handler's box took the activation
+    bool voltando_ = false;       // asked the activation back after that box
+    int teclaPressionada_ = -1; // the key whose press this window received
 };
 
 } // namespace tramelo

@@ -238,7 +238,10 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         if (!campo || i < 0) break;
         auto* tecla = static_cast<QKeyEvent*>(evento);
         QString texto = tecla->text();
-        if (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter) return true;
+        if (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter) {
+            if (!tecla->isAutoRepeat()) enterPressionado_ = campo;
+            return true;
+        }
         if (texto.size() != 1 || texto[0].unicode() < 32 || tecla->key() == Qt::Key_Delete) break;
         int passa = txtDados_KeyPress(registro_, i, texto[0].unicode());
         if (passa == 0) return true;
@@ -255,7 +258,11 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         auto* tecla = static_cast<QKeyEvent*>(evento);
         if (campo && i >= 0 && !tecla->isAutoRepeat() &&
             (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter)) {
-            emit duploCliqueCampo(i);
+            // Only an Enter pressed in this field: the one that closed a
+            // message box comes back released here and opens nothing.
+            const bool aqui = enterPressionado_ == campo;
+            enterPressionado_ = nullptr;
+            if (aqui) emit duploCliqueCampo(i);
             return true;
         }
         break;

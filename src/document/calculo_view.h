@@ -62,6 +62,8 @@ class CalculoView : public QWidget {
     std::array<QLabel*, 31> lblDados_{};
     std::array<QLineEdit*, 31> txtDados_{};
     std::array<QComboBox*, 31> cboDados_{};
+    // The field that received the last Enter press (a child of this view).
+    QLineEdit* enterPressionado_ = nullptr;
 };
 
 } // namespace tramelo

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # Prints the accessibility tree of the running Tramelo, one object a line:
 # depth, role, name, x, y, width, height, states (S showing, A active,
-# F focused), tab-separated, in screen coordinates. Hidden subtrees are cut.
+# F focused) and the text of a field or label, tab-separated, in screen coordinates. Hidden subtrees are cut.
 import sys
 
 import pyatspi
@@ -19,7 +19,14 @@ def linha(o, nivel):
         except Exception:
             caixa = (0, 0, 0, 0)
         nome = (o.name or "").replace("\t", " ").replace("\n", " ")
-        print(nivel, o.getRoleName(), nome, *caixa, flags, sep="\t")
+        texto = ""
+        if o.getRoleName() in ("text", "label"):
+            try:
+                t = o.queryText()
+                texto = t.getText(0, t.characterCount).replace("\t", " ").replace("\n", " ")
+            except Exception:
+                pass
+        print(nivel, o.getRoleName(), nome, *caixa, flags, texto, sep="\t")
         if not mostra and nivel > 1:
             return
         for i in range(o.childCount):

@@ -68,5 +68,46 @@ TEST_F(Jornada, RelatorioFechadoPelaBarraDeTituloVoltaComCalcular) {
     EXPECT_TRUE(x.Vivo());
 }
 
+// The calculator on the flow field takes a division by zero: the box says so
+// and the calculator goes on with the operand; "=" then writes the result.
+// Opened by a double click, by the toolbar button and by Enter on the field.
+TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    auto campo = x.Espera("text", "Vazão de projeto", 5000);
+    ASSERT_TRUE(campo);
+    int valor = 50;
+    for (const std::string modo : {"duplo clique", "botão", "Enter"}) {
+        SCOPED_TRACE(modo);
+        if (modo == "duplo clique") {
+            x.DuploClique(campo->cx(), campo->cy());
+        } else {
+            x.Clica(campo->cx(), campo->cy());
+            if (modo == "botão")
+                Botao("Calculadora");
+            else
+                x.Tecla("Return");
+        }
+        const std::string operando = std::to_string(valor) + ",";
+        ASSERT_TRUE(x.Espera("label", operando, 5000));
+        // Keypad "/", the main keyboard's 0, keypad "+".
+        x.Tecla("KP_Divide 0 KP_Add");
+        ASSERT_TRUE(x.Espera("label", "Não é possível dividir por zero", 5000));
+        x.Tecla("Return");
+        ASSERT_TRUE(x.EsperaSumir("label", "Não é possível dividir por zero", 5000));
+        ASSERT_TRUE(x.Espera("label", operando, 3000)) << "the calculator went away";
+        x.Tecla("2 KP_Enter");
+        ASSERT_TRUE(x.EsperaSumir("label", operando, 5000));
+        valor += 2;
+        auto depois = x.Espera("text", "Vazão de projeto", 3000);
+        ASSERT_TRUE(depois);
+        EXPECT_EQ(depois->texto, std::to_string(valor));
+        ASSERT_TRUE(x.Vivo());
+    }
+    // The field's text, read back as a person would: copied.
+    x.Clica(campo->cx(), campo->cy());
+    x.Tecla("ctrl+a ctrl+c");
+    EXPECT_EQ(x.AreaDeTransferencia(), "56");
+}
+
 } // namespace
 } // namespace tramelo::teste

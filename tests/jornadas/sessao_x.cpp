@@ -229,6 +229,7 @@ std::vector<No> SessaoX::Arvore() const {
         n.visivel = f.find('S') != std::string::npos;
         n.ativo = f.find('A') != std::string::npos;
         n.focado = f.find('F') != std::string::npos;
+        if (c.size() > 8) n.texto = c[8];
         nos.push_back(n);
     }
     return nos;

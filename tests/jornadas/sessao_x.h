@@ -15,7 +15,7 @@ namespace tramelo::teste {
 // One object of the accessibility tree, with its place on the screen.
 struct No {
     int nivel = 0;
-    std::string papel, nome;
+    std::string papel, nome, texto;
     int x = 0, y = 0, w = 0, h = 0;
     bool visivel = false, ativo = false, focado = false;
     int cx() const { return x + w / 2; }
