@@ -49,6 +49,9 @@ class FrmCalcTramelo {
     float FatorPerda = 1.0f;
     Variante ValorCampo;
     std::string NomeMaterial;
+    // The fluid and the taps as this window's selections last named them, for
+    // its own report: another window's choice never reaches it.
+    std::string NomeFluido, NomeTomada;
     short Campo = 0;
     short Escala = 0;
     short Fluido = 0;
