@@ -424,7 +424,9 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
     };
     auto marcado = [&](QMenu* menu, const ItemMenu& frameItem, const ItemMenu* filhoItem,
                        void (*acao)()) {
-        QAction* a = item(menu, Q(frameItem.Caption), acao);
+        // A child's menu has its own captions: the report's "&Etiquetas de
+        // texto" carries a key the frame's doesn't.
+        QAction* a = item(menu, Q(filhoItem ? filhoItem->Caption : frameItem.Caption), acao);
         a->setCheckable(true);
         a->setChecked(filhoItem ? filhoItem->Checked : frameItem.Checked);
     };
@@ -457,8 +459,9 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
             if (calculo) mnuArquivoSalvarComo_Click(*calculo);
         },
         calculo && calculo->mnuArquivoSalvarComo.Enabled);
-    QAction* todos = item(arquivo, QStringLiteral("Salvar &todos"), nullptr,
-                          calculo && calculo->mnuArquivoSalvarTodos.Enabled);
+    QAction* todos =
+        item(arquivo, rel ? QStringLiteral("Salvar todos") : QStringLiteral("Salvar &todos"),
+             nullptr, calculo && calculo->mnuArquivoSalvarTodos.Enabled);
     todos->setVisible(!frame);
     arquivo->addSeparator();
     QMenu* exportar = arquivo->addMenu(QStringLiteral("Exportar"));
@@ -568,9 +571,10 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
         if (mnuAjudaDocumentacaoTabela) mnuAjudaDocumentacaoTabela(1);
     });
     ajuda->addSeparator();
-    item(ajuda, QStringLiteral("&Sobre o Tramelo..."), [] {
-        if (MostraSobre) MostraSobre();
-    });
+    item(ajuda,
+         rel ? QStringLiteral("&Sobre o Tramelo") : QStringLiteral("&Sobre o Tramelo..."), [] {
+             if (MostraSobre) MostraSobre();
+         });
 }
 
 } // namespace tramelo

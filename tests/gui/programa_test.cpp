@@ -96,6 +96,15 @@ TEST_F(Programa, CalculaSalvaFechaEReabre) {
     ASSERT_GT(relatorio.size(), 30);
     EXPECT_TRUE(relatorio.contains(QStringLiteral(" Beta = d/D _______________________ 0,60463")));
     EXPECT_TRUE(janela().VistaRelatorio(*calculo().Relatorio)->isVisibleTo(&janela()));
+    // The report, now the active window, shows its own menu bar's texts.
+    QApplication::processEvents();
+    for (const std::vector<QString>& caminho : {std::vector<QString>{"&Arquivo", "Salvar todos"},
+                                                {"E&xibir", "&Etiquetas de texto"},
+                                                {"Aj&uda", "&Sobre o Tramelo"}}) {
+        QAction* a = Entrada(janela(), caminho);
+        ASSERT_NE(a, nullptr) << caminho.back().toStdString();
+        EXPECT_EQ(a->text(), caminho.back());
+    }
 
     // Saved through the dialog; closed with the question; reopened from the
     // recent files: the same lines, and the same as the command-line tool's.
