@@ -126,12 +126,15 @@ MdiMenuView::MdiMenuView() {
     timer->start(1000);
 
     // The stored place, or the design's made large enough for a calculation
-    // and its report.
+    // and its report. GuardaLugar stores the client area's corner, so that
+    // corner is what comes back: setGeometry places the client area, where
+    // move() would place the frame and shift the window by its title bar.
     const MdiMenu& m = mdiMenu();
     const MdiMenu projeto;
-    move(Px(m.Left), Px(m.Top));
-    if (m.Width == projeto.Width && m.Height == projeto.Height) resize(720, 600);
-    else resize(Px(m.Width), Px(m.Height));
+    const QSize tamanho = m.Width == projeto.Width && m.Height == projeto.Height
+                              ? QSize(720, 600)
+                              : QSize(Px(m.Width), Px(m.Height));
+    setGeometry(QRect(QPoint(Px(m.Left), Px(m.Top)), tamanho));
 
     CalculoView::aoAgir = [this] { SincronizaTudo(); };
     ConstroiMenus(Tipo::Frame);
@@ -341,7 +344,7 @@ void MdiMenuView::GuardaLugar() {
     m.Top = r.y() * 15;
     m.Width = r.width() * 15;
     m.Height = r.height() * 15;
-    m.WindowState = isMaximized() ? 2 : isMinimized() ? 1 : 0;
+    m.WindowState = EstadoDaJanela(isMinimized(), isMaximized());
 }
 
 void MdiMenuView::closeEvent(QCloseEvent* e) {
@@ -356,7 +359,7 @@ void MdiMenuView::closeEvent(QCloseEvent* e) {
 void MdiMenuView::changeEvent(QEvent* e) {
     if (e->type() == QEvent::WindowStateChange) {
         MdiMenu& m = mdiMenu();
-        m.WindowState = isMinimized() ? 1 : isMaximized() ? 2 : 0;
+        m.WindowState = EstadoDaJanela(isMinimized(), isMaximized());
         if (m.WindowState != 1) m.EstadoAnterior = m.WindowState;
     }
     QMainWindow::changeEvent(e);
