@@ -7,6 +7,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 class QComboBox;
 class QFrame;
@@ -49,9 +50,13 @@ class CalculoView : public QWidget {
     void SincronizaLista(QComboBox* w, const CaixaCombinacao& c);
     void SincronizaTexto(QLineEdit* w, const CaixaTexto& t);
     void Rola();
+    void OrdenaTab();
+    void AtendeFoco();
 
     FrmCalcTramelo& registro_;
     bool sincronizando_ = false;
+    unsigned pedidosAtendidos_ = 0; // the record's focus requests served
+    std::vector<int> ordemTab_;     // rows in the tab chain, top to bottom
     QComboBox *cboTramelo_, *cboFluido_, *cboTomada_, *cboMassaDensidade_;
     QLabel *lblTramelo_, *lblFluido_, *lblTomada_, *lblTag_, *lblMassaDensidade_;
     QLineEdit* txtTag_;

@@ -79,7 +79,7 @@ void MaterialClick(FrmCalcTramelo& f) {
         material->itens[static_cast<size_t>(i)].texto = f.NomeMaterial;
     if (fator) {
         fator->Locked = false;
-        f.foco = "txtDados(29)";
+        f.PedeFoco("txtDados(29)");
     }
 }
 

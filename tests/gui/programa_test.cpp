@@ -147,6 +147,11 @@ TEST_F(Programa, CalculaSalvaFechaEReabre) {
 
 TEST_F(Programa, FalhaNoCalculoMostraOErroEContinua) {
     PreencheAgua();
+    // Tab follows the display order: from the tag to the flow; the density
+    // mode stands lower, just above the densities.
+    Widget<QLineEdit>(&vista(), "txtTag")->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), campo(2));
     // Pasted text isn't filtered: a letter reaches the field.
     QLineEdit* e = campo(5);
     e->setFocus();
@@ -166,6 +171,16 @@ TEST_F(Programa, FalhaNoCalculoMostraOErroEContinua) {
     Botao(janela(), "tbCalculo", "Calcular");
     EXPECT_EQ(caixas.mostradas.size(), 1u);
     EXPECT_GT(linhasDoRelatorio()->count(), 30);
+
+    // An empty field met by "Calcular": the message, and the focus is left
+    // in that field.
+    Digita(campo(8), QString());
+    campo(9)->setFocus();
+    Botao(janela(), "tbCalculo", "Calcular");
+    ASSERT_EQ(caixas.mostradas.size(), 2u);
+    EXPECT_EQ(caixas.mostradas[1].texto, "O campo 'Temperatura de leitura' não foi preenchido");
+    QApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), campo(8));
 }
 
 } // namespace
