@@ -26,10 +26,17 @@ void SistemaQt::MousePointer(int forma) {
     }
 }
 
+QUrl EnderecoParaUrl(const std::string& caminho) {
+    const QString q = QString::fromStdString(caminho);
+    // An address with a scheme ("https://...", "mailto:...?Subject=...") goes
+    // to the desktop's handler for that scheme; anything else is a file or a
+    // folder. A one-letter scheme is a drive ("C:/..."), not an address.
+    const QUrl url(q);
+    return url.isValid() && url.scheme().size() > 1 ? url : QUrl::fromLocalFile(q);
+}
+
 bool SistemaQt::Abre(const std::string& caminho) {
-    QString q = QString::fromStdString(caminho);
-    QUrl url = q.contains(QStringLiteral("://")) ? QUrl(q) : QUrl::fromLocalFile(q);
-    return QDesktopServices::openUrl(url);
+    return QDesktopServices::openUrl(EnderecoParaUrl(caminho));
 }
 
 namespace {

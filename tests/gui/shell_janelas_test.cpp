@@ -1,6 +1,7 @@
 // The splash, the about box, the tips and the options as a user meets them.
 #include "pasta_temporaria.h"
 
+#include "app/servicos_qt.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/canal.h"
 #include "shell/abertura_view.h"
@@ -18,6 +19,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -196,6 +198,14 @@ TEST_F(ShellJanelas, SobreAbreCadaLinkPelaSuaCaixa) {
     EXPECT_EQ(sistema.abertos,
               (std::vector<std::string>{"https://www.quillon.com.br",
                                         "mailto:suporte@quillon.com.br?Subject=Sobre o Tramelo"}));
+    // The desktop gets each as an address of its scheme, the mail with its
+    // subject; a path stays a local file.
+    const QUrl email = EnderecoParaUrl(sistema.abertos.at(1));
+    EXPECT_EQ(email.scheme(), "mailto");
+    EXPECT_EQ(email.path(), "suporte@quillon.com.br");
+    EXPECT_EQ(email.query(QUrl::FullyDecoded), "Subject=Sobre o Tramelo");
+    EXPECT_EQ(EnderecoParaUrl(sistema.abertos.at(0)).host(), "www.quillon.com.br");
+    EXPECT_TRUE(EnderecoParaUrl("/home/ana/Relatorios").isLocalFile());
 }
 
 TEST_F(ShellJanelas, SobreSublinhaOLinkSoComOPonteiroDentroDaCaixa) {
