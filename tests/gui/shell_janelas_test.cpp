@@ -13,10 +13,14 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCursor>
 #include <QDeadlineTimer>
 #include <QLabel>
+#include <QPageSetupDialog>
+#include <QPrinter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -206,6 +210,29 @@ TEST_F(ShellJanelas, SobreAbreCadaLinkPelaSuaCaixa) {
     EXPECT_EQ(email.query(QUrl::FullyDecoded), "Subject=Sobre o Tramelo");
     EXPECT_EQ(EnderecoParaUrl(sistema.abertos.at(0)).host(), "www.quillon.com.br");
     EXPECT_TRUE(EnderecoParaUrl("/home/ana/Relatorios").isLocalFile());
+}
+
+TEST_F(ShellJanelas, ConfigurarImpressaoEscolheAPaginaDaProximaImpressao) {
+    // A page set-up, not a print dialog: what is chosen there stays in the
+    // printer that the next print draws on.
+    QPrinter& impressora = ImpressoraDoPrograma();
+    const QPageLayout antes = impressora.pageLayout();
+    DialogosQt dialogos;
+    ConfiguraDialogo d;
+    d.Flags = cdlPDPrintSetup;
+    bool confirmado = false;
+    NoModal<QPageSetupDialog>([&] { confirmado = dialogos.ShowPrinter(d); },
+                              [](QPageSetupDialog& p) {
+                                  EXPECT_EQ(p.windowTitle(), "Configurar impressão");
+                                  EXPECT_NE(Filho<QComboBox>(p, "impressora"), nullptr);
+                                  auto* paisagem = Filho<QRadioButton>(p, "landscape");
+                                  ASSERT_NE(paisagem, nullptr);
+                                  paisagem->click();
+                                  p.accept();
+                              });
+    EXPECT_TRUE(confirmado);
+    EXPECT_EQ(impressora.pageLayout().orientation(), QPageLayout::Landscape);
+    impressora.setPageLayout(antes);
 }
 
 TEST_F(ShellJanelas, SobreSublinhaOLinkSoComOPonteiroDentroDaCaixa) {
