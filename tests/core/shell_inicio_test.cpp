@@ -398,6 +398,16 @@ TEST_F(ShellInicio, SaidaCanceladaNumaPergunta) {
     EXPECT_EQ(LeConfig("Config", "Barra0"), "");
     EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "");
 
+    // A session that ends letting nobody ask stores bars and place all the
+    // same, asks nothing and unloads nothing.
+    tela.lugar = {1200, 900, 9000, 6600, false, true};
+    GuardaSessao();
+    EXPECT_EQ(caixas.mostradas.size(), 1u);
+    EXPECT_EQ(Calculos().size(), 1u);
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState"), "2");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1200");
+
     caixas.respostas = {vbNo};
     EXPECT_TRUE(FechaPrograma());
     EXPECT_TRUE(Calculos().empty());
