@@ -149,8 +149,9 @@ TEST_F(Programa, FalhaNoCalculoMostraOErroEContinua) {
     PreencheAgua();
     // Tab follows the display order: from the tag to the flow; the density
     // mode stands lower, just above the densities.
-    Widget<QLineEdit>(&vista(), "txtTag")->setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QLineEdit* tag = Widget<QLineEdit>(&vista(), "txtTag");
+    tag->setFocus();
+    QTest::keyClick(tag, Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), campo(2));
     // Pasted text isn't filtered: a letter reaches the field.
     QLineEdit* e = campo(5);
