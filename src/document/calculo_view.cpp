@@ -274,7 +274,10 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         if (!campo || i < 0) break;
         auto* tecla = static_cast<QKeyEvent*>(evento);
         QString texto = tecla->text();
-        if (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter) return true;
+        if (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter) {
+            enterNoCampo_ = campo;
+            return true;
+        }
         if (texto.size() != 1 || texto[0].unicode() < 32 || tecla->key() == Qt::Key_Delete) break;
         int passa = txtDados_KeyPress(registro_, i, texto[0].unicode());
         if (passa == 0) return true;
@@ -291,7 +294,11 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         auto* tecla = static_cast<QKeyEvent*>(evento);
         if (campo && i >= 0 && !tecla->isAutoRepeat() &&
             (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter)) {
-            emit duploCliqueCampo(i);
+            // Only an Enter pressed here: the release of one that closed a
+            // box, which then put the focus here, opens nothing.
+            const bool aqui = enterNoCampo_ == campo;
+            enterNoCampo_ = nullptr;
+            if (aqui) emit duploCliqueCampo(i);
             return true;
         }
         break;

@@ -56,6 +56,7 @@ class CalculoView : public QWidget {
     FrmCalcTramelo& registro_;
     bool sincronizando_ = false;
     unsigned pedidosAtendidos_ = 0; // the record's focus requests served
+    QLineEdit* enterNoCampo_ = nullptr; // the field the last Enter went down in
     std::vector<int> ordemTab_;     // rows in the tab chain, top to bottom
     QComboBox *cboTramelo_, *cboFluido_, *cboTomada_, *cboMassaDensidade_;
     QLabel *lblTramelo_, *lblFluido_, *lblTomada_, *lblTag_, *lblMassaDensidade_;
