@@ -1,5 +1,6 @@
 #include "app/programa_qt.h"
 
+#include "app/encerramento_qt.h"
 #include "app/impressora_qt.h"
 #include "app/ligacao_qt.h"
 #include "app/servicos_qt.h"
@@ -142,6 +143,14 @@ void ProgramaQt::Carrega() {
     };
 }
 
+bool ProgramaQt::Fecha() {
+    if (!janela_) {
+        QCoreApplication::quit();
+        return true;
+    }
+    return janela_->close();
+}
+
 void ProgramaQt::Mostra() {
     if (!janela_) return;
     AplicaEstado();
@@ -169,7 +178,7 @@ void ProgramaQt::AplicaEstado() {
 }
 
 void ProgramaQt::GuardaLugar() {
-    janela_->GuardaLugar();
+    if (janela_) janela_->GuardaLugar();
 }
 
 void ProgramaQt::DescarregaOutras() {
@@ -208,6 +217,8 @@ int ExecutaPrograma(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral("2.0.1"));
     DefineLinhaComando(argc, argv);
     ProgramaQt programa;
+    // A SIGTERM or the session's end, from the bring-up on.
+    EncerramentoQt encerramento([&programa] { return programa.Fecha(); }, [] { GuardaSessao(); });
     if (!programa.Inicia()) return 0;
     return app.exec();
 }

@@ -27,6 +27,9 @@ class ProgramaQt : public TelaMenu {
     // The entry routine: a second start hands its command line over and
     // returns false; the first brings the program up and returns true.
     bool Inicia();
+    // The main window closed as by its close box; false when a calculation
+    // kept it open.
+    bool Fecha();
 
     // TelaMenu: the main window for the core's bring-up and shutdown.
     void Carrega() override;

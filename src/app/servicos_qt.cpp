@@ -1,13 +1,18 @@
 #include "app/servicos_qt.h"
 
 #include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
 #include <QCursor>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
+#include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QUrl>
 
 namespace tramelo {
@@ -26,10 +31,17 @@ void SistemaQt::MousePointer(int forma) {
     }
 }
 
+QUrl EnderecoParaUrl(const std::string& caminho) {
+    const QString q = QString::fromStdString(caminho);
+    // An address with a scheme ("https://...", "mailto:...?Subject=...") goes
+    // to the desktop's handler for that scheme; anything else is a file or a
+    // folder. A one-letter scheme is a drive ("C:/..."), not an address.
+    const QUrl url(q);
+    return url.isValid() && url.scheme().size() > 1 ? url : QUrl::fromLocalFile(q);
+}
+
 bool SistemaQt::Abre(const std::string& caminho) {
-    QString q = QString::fromStdString(caminho);
-    QUrl url = q.contains(QStringLiteral("://")) ? QUrl(q) : QUrl::fromLocalFile(q);
-    return QDesktopServices::openUrl(url);
+    return QDesktopServices::openUrl(EnderecoParaUrl(caminho));
 }
 
 namespace {
@@ -71,11 +83,62 @@ QPrinter& ImpressoraDoPrograma() {
     return impressora;
 }
 
+namespace {
+
+// The page set-up: the printer, and the paper, orientation and margins the
+// next print uses, all kept in the program's printer. Choosing another
+// printer opens the set-up again on it, so the papers offered are its own.
+// Cancel leaves the printer as it was.
+bool ConfiguraPagina(QPrinter& impressora, QWidget* dono) {
+    const QString nomeAntes = impressora.printerName();
+    const QPrinter::OutputFormat formatoAntes = impressora.outputFormat();
+    constexpr int OutraImpressora = 2;
+    for (;;) {
+        QPageSetupDialog dialogo(&impressora, dono);
+        dialogo.setWindowTitle(QStringLiteral("Configurar impressão"));
+        auto* linha = new QWidget(&dialogo);
+        auto* disposicao = new QHBoxLayout(linha);
+        disposicao->setContentsMargins(0, 0, 0, 0);
+        disposicao->addWidget(new QLabel(QStringLiteral("Impressora:"), linha));
+        auto* lista = new QComboBox(linha);
+        lista->setObjectName(QStringLiteral("impressora"));
+        for (const QString& nome : QPrinterInfo::availablePrinterNames())
+            lista->addItem(nome, nome);
+        // An empty name stands for the PDF file a print then asks for.
+        lista->addItem(QStringLiteral("Arquivo PDF"), QString());
+        const int atual = impressora.outputFormat() == QPrinter::PdfFormat
+                              ? lista->count() - 1
+                              : lista->findData(impressora.printerName());
+        lista->setCurrentIndex(atual < 0 ? 0 : atual);
+        disposicao->addWidget(lista, 1);
+        if (auto* caixa = qobject_cast<QBoxLayout*>(dialogo.layout()))
+            caixa->insertWidget(0, linha);
+        QObject::connect(lista, &QComboBox::activated, &dialogo, [&](int i) {
+            const QString nome = lista->itemData(i).toString();
+            if (nome.isEmpty()) {
+                impressora.setOutputFormat(QPrinter::PdfFormat);
+            } else {
+                impressora.setOutputFormat(QPrinter::NativeFormat);
+                impressora.setPrinterName(nome);
+            }
+            dialogo.done(OutraImpressora);
+        });
+        const int r = dialogo.exec();
+        if (r == OutraImpressora) continue;
+        if (r == QDialog::Accepted) return true;
+        impressora.setOutputFormat(formatoAntes);
+        if (formatoAntes == QPrinter::NativeFormat) impressora.setPrinterName(nomeAntes);
+        return false;
+    }
+}
+
+} // namespace
+
 bool DialogosQt::ShowPrinter(ConfiguraDialogo& d) {
     QPrinter& impressora = ImpressoraDoPrograma();
+    if (d.Flags & cdlPDPrintSetup) return ConfiguraPagina(impressora, dono_);
     QPrintDialog dialogo(&impressora, dono_);
-    dialogo.setWindowTitle(d.Flags & cdlPDPrintSetup ? QStringLiteral("Configurar impressão")
-                                                     : QStringLiteral("Imprimir"));
+    dialogo.setWindowTitle(QStringLiteral("Imprimir"));
     // No choice of a selection; printing to a file (PDF) stays offered, as
     // on every desktop here.
     dialogo.setOption(QAbstractPrintDialog::PrintSelection, false);

@@ -6,6 +6,7 @@
 #include "plataforma/sistema.h"
 
 class QPrinter;
+class QUrl;
 class QWidget;
 
 namespace tramelo {
@@ -13,6 +14,10 @@ namespace tramelo {
 // The program's one printer, set up by the print dialogs and drawn on by
 // the printing of a report.
 QPrinter& ImpressoraDoPrograma();
+
+// What the desktop is asked to open for a path or an address: an address
+// with its scheme as it stands, a path as a local file.
+QUrl EnderecoParaUrl(const std::string& caminho);
 
 class SistemaQt : public Sistema {
   public:

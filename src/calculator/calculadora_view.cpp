@@ -1,11 +1,13 @@
 #include "calculator/calculadora_view.h"
 
+#include "calculator/lugar.h"
 #include "document/frm_calc_tramelo.h"
 #include "shell/mod_base.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
@@ -331,13 +333,22 @@ void CalculadoraView::Abre(FrmCalcTramelo& pai, int indice, QWidget* campo, QWid
         c->Fecha();
         return;
     }
-    // Under the field, or above it when it would pass the window's bottom.
+    // Under the field, or above it when it would pass the bottom of the
+    // calculation window (the field's sub-window, not the main window).
     if (campo) {
-        const QRect r(campo->mapToGlobal(QPoint(0, 0)), campo->size());
-        const QWidget* janela = campo->window();
+        const QPoint canto = campo->mapToGlobal(QPoint(0, 0));
+        const QWidget* janela = campo;
+        while (janela->parentWidget() && !qobject_cast<const QMdiSubWindow*>(janela))
+            janela = janela->parentWidget();
         const int fundoJanela = janela->mapToGlobal(QPoint(0, janela->height())).y();
-        const int h = c->frameGeometry().height();
-        c->move(r.left(), h + r.bottom() < fundoJanela ? r.bottom() : r.top() - h);
+        // Not framed yet: its title bar and borders are taken as the main
+        // window's, which the desktop has framed already.
+        const QWidget* principal = campo->window();
+        const int moldura = principal->frameGeometry().height() - principal->height();
+        const PontoTela p =
+            LugarDaCalculadora(c->height() + moldura, canto.x(), canto.y(),
+                               canto.y() + campo->height(), fundoJanela);
+        c->move(p.x, p.y); // a top-level's move places its frame
     }
     c->Inicia(pai, indice);
 }

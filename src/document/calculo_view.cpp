@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace tramelo {
 namespace {
 
@@ -127,7 +129,6 @@ CalculoView::CalculoView(FrmCalcTramelo& registro, QWidget* pai)
             Age([this, i, s] { registro_.txtDados(i)->DefineTexto(s.toStdString()); });
         });
     }
-    // Tab order is display order: selections, then rows top to bottom.
     connect(cboTramelo_, QOverload<int>::of(&QComboBox::activated), this,
             [this](int k) { Age([this, k] { registro_.cboTramelo.DefineListIndex(k); }); });
     connect(cboFluido_, QOverload<int>::of(&QComboBox::activated), this,
@@ -219,6 +220,44 @@ void CalculoView::Sincroniza() {
     barraV_->setSingleStep(std::max(1, f.barraV.SmallChange));
     barraV_->setValue(f.barraV.Value);
     sincronizando_ = false;
+    OrdenaTab();
+    AtendeFoco();
+}
+
+void CalculoView::OrdenaTab() {
+    // The display order: the three selections, then the rows in sight order,
+    // which changes with the fluid (the density-mode row stands among them).
+    std::vector<int> linhas;
+    for (int i = 0; i <= 30; ++i) {
+        const Faixa* faixa = registro_.picDados(i);
+        if (faixa && faixa->Visible) linhas.push_back(i);
+    }
+    std::stable_sort(linhas.begin(), linhas.end(), [this](int a, int b) {
+        return registro_.picDados(a)->Top < registro_.picDados(b)->Top;
+    });
+    if (linhas == ordemTab_) return;
+    ordemTab_ = linhas;
+    std::vector<QWidget*> cadeia{cboTramelo_, cboFluido_, cboTomada_};
+    for (int i : linhas) {
+        if (i == 0) cadeia.push_back(txtTag_);
+        else if (i == 1) cadeia.push_back(cboMassaDensidade_);
+        else {
+            if (QWidget* t = txtDados_[static_cast<size_t>(i)]) cadeia.push_back(t);
+            if (QWidget* c = cboDados_[static_cast<size_t>(i)]) cadeia.push_back(c);
+        }
+    }
+    for (size_t k = 1; k < cadeia.size(); ++k)
+        QWidget::setTabOrder(cadeia[k - 1], cadeia[k]);
+}
+
+void CalculoView::AtendeFoco() {
+    // A handler asked for the focus (the material's factor, an empty field
+    // met by "Calcular"). Its GotFocus runs as for a user's click: the scroll
+    // rule, the calculator button, the selected text.
+    if (registro_.pedidosDeFoco == pedidosAtendidos_) return;
+    pedidosAtendidos_ = registro_.pedidosDeFoco;
+    auto* w = findChild<QWidget*>(Q(registro_.foco));
+    if (w && w->isEnabled() && w->isVisibleTo(this)) w->setFocus(Qt::OtherFocusReason);
 }
 
 int CalculoView::LinhaComFoco() const {
@@ -239,7 +278,7 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         auto* tecla = static_cast<QKeyEvent*>(evento);
         QString texto = tecla->text();
         if (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter) {
-            if (!tecla->isAutoRepeat()) enterPressionado_ = campo;
+            if (!tecla->isAutoRepeat()) enterNoCampo_ = campo;
             return true;
         }
         if (texto.size() != 1 || texto[0].unicode() < 32 || tecla->key() == Qt::Key_Delete) break;
@@ -258,10 +297,10 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         auto* tecla = static_cast<QKeyEvent*>(evento);
         if (campo && i >= 0 && !tecla->isAutoRepeat() &&
             (tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter)) {
-            // Only an Enter pressed in this field: the one that closed a
-            // message box comes back released here and opens nothing.
-            const bool aqui = enterPressionado_ == campo;
-            enterPressionado_ = nullptr;
+            // Only an Enter pressed here: the release of one that closed a
+            // box, which then put the focus here, opens nothing.
+            const bool aqui = enterNoCampo_ == campo;
+            enterNoCampo_ = nullptr;
             if (aqui) emit duploCliqueCampo(i);
             return true;
         }

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 class QComboBox;
 class QFrame;
@@ -49,9 +50,14 @@ class CalculoView : public QWidget {
     void SincronizaLista(QComboBox* w, const CaixaCombinacao& c);
     void SincronizaTexto(QLineEdit* w, const CaixaTexto& t);
     void Rola();
+    void OrdenaTab();
+    void AtendeFoco();
 
     FrmCalcTramelo& registro_;
     bool sincronizando_ = false;
+    unsigned pedidosAtendidos_ = 0; // the record's focus requests served
+    QLineEdit* enterNoCampo_ = nullptr; // the field the last Enter went down in
+    std::vector<int> ordemTab_;     // rows in the tab chain, top to bottom
     QComboBox *cboTramelo_, *cboFluido_, *cboTomada_, *cboMassaDensidade_;
     QLabel *lblTramelo_, *lblFluido_, *lblTomada_, *lblTag_, *lblMassaDensidade_;
     QLineEdit* txtTag_;
@@ -62,8 +68,6 @@ class CalculoView : public QWidget {
     std::array<QLabel*, 31> lblDados_{};
     std::array<QLineEdit*, 31> txtDados_{};
     std::array<QComboBox*, 31> cboDados_{};
-    // The field that received the last Enter press (a child of this view).
-    QLineEdit* enterPressionado_ = nullptr;
 };
 
 } // namespace tramelo

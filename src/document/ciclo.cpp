@@ -7,6 +7,7 @@
 #include "document/janelas.h"
 #include "plataforma/ambiente.h"
 #include "report/frm_relatorio.h"
+#include "report/janela_relatorio.h"
 #include "shell/barras.h"
 #include "shell/mdi_menu.h"
 #include "shell/mod_base.h"
@@ -187,7 +188,7 @@ bool Form_QueryUnload(FrmCalcTramelo& f) {
 
 void Form_Unload(FrmCalcTramelo& f) {
     Form_Deactivate(f);
-    f.Relatorio->Hide();
+    Relatorio_Unload(*f.Relatorio);
 }
 
 void mnuArquivoSalvar_Click(FrmCalcTramelo& f) {

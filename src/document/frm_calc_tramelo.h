@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace tramelo {
 
@@ -49,6 +50,9 @@ class FrmCalcTramelo {
     float FatorPerda = 1.0f;
     Variante ValorCampo;
     std::string NomeMaterial;
+    // The fluid and the taps as this window's selections last named them, for
+    // its own report: another window's choice never reaches it.
+    std::string NomeFluido, NomeTomada;
     short Campo = 0;
     short Escala = 0;
     short Fluido = 0;
@@ -87,6 +91,14 @@ class FrmCalcTramelo {
     std::array<std::optional<Linha>, 31> linhas;
     // The control that has the focus, by name: "txtDados(9)", "txtTag", ...
     std::string foco;
+    // A handler that moves the focus (a SetFocus) names the control here; the
+    // count tells the window that a new request came, even for the control
+    // named last time.
+    void PedeFoco(std::string controle) {
+        foco = std::move(controle);
+        ++pedidosDeFoco;
+    }
+    unsigned pedidosDeFoco = 0;
     // The Index of the control that has the focus when it is a data row's
     // ("txtDados(9)", "cboDados(5)"), else -1.
     int IndiceControleAtivo() const;

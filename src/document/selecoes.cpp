@@ -79,7 +79,7 @@ void MaterialClick(FrmCalcTramelo& f) {
         material->itens[static_cast<size_t>(i)].texto = f.NomeMaterial;
     if (fator) {
         fator->Locked = false;
-        f.foco = "txtDados(29)";
+        f.PedeFoco("txtDados(29)");
     }
 }
 
@@ -117,7 +117,7 @@ void cboFluido_Click(FrmCalcTramelo& f) {
         f.cboFluido.itens[static_cast<size_t>(i)].texto =
             nome.empty() ? tipo : nome + " (" + tipo + ")";
     }
-    c.NomeFluidos[0] = f.cboFluido.Text();
+    f.NomeFluido = f.cboFluido.Text();
     if (f.cboFluido.ListIndex() >= 0) AlteraEscalas(f, f.cboFluido.ListIndex());
     Lista(f, Pronto(f));
 }
@@ -130,7 +130,7 @@ void cboTomada_Click(FrmCalcTramelo& f) {
         f.cboTomada.DefineListIndex(0);
     }
     f.Tomada = static_cast<short>(f.cboTomada.ListIndex() + 1);
-    catalogo().NomeTomadas[0] = f.cboTomada.Text();
+    f.NomeTomada = f.cboTomada.Text();
     f.cmdCalcular.Enabled = f.cboTomada.ListIndex() >= 0;
     Lista(f, Pronto(f));
 }

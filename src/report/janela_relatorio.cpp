@@ -21,6 +21,12 @@ void Relatorio_Deactivate(FrmRelatorio&) {
     m.tbCalculo.Habilita("Exportar", false);
 }
 
+void Relatorio_Unload(FrmRelatorio& r) {
+    // Nothing is left to print or export once the report is gone.
+    Relatorio_Deactivate(r);
+    r.Hide();
+}
+
 bool Relatorio_QueryUnload(FrmRelatorio& r, bool fechadoPeloUsuario) {
     if (!fechadoPeloUsuario) return false;
     r.Hide();

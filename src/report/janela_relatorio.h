@@ -14,6 +14,7 @@ struct FrmRelatorio;
 void Relatorio_Activate(FrmRelatorio& r);
 // Deactivation and unload disable the same two buttons.
 void Relatorio_Deactivate(FrmRelatorio& r);
+void Relatorio_Unload(FrmRelatorio& r);
 
 // A user's close (close box, system menu, "Fechar") hides the window; its
 // lines stay. Returns true: the close is cancelled.

@@ -104,4 +104,10 @@ bool FechaPrograma() {
     return true;
 }
 
+void GuardaSessao() {
+    MdiMenu_QueryUnload();
+    if (TelaMenu* t = telaMenu()) t->GuardaLugar();
+    MdiMenu_Unload();
+}
+
 } // namespace tramelo

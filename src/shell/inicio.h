@@ -46,4 +46,9 @@ void MdiMenu_Resize();
 // stored and the other windows go.
 bool FechaPrograma();
 
+// A session that ends letting no program ask: what the exit stores (recent
+// files, bars, state and place) is stored all the same; calculations can't be
+// asked about, and nothing is unloaded, since the session ends the process.
+void GuardaSessao();
+
 } // namespace tramelo

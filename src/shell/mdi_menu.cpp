@@ -191,6 +191,10 @@ void MdiMenu_Unload() {
     GravaConfig("Config\\Menu", "MainHeight", NumeroSimplesParaTexto(static_cast<float>(m.Height)));
 }
 
+int EstadoDaJanela(bool minimizada, bool maximizada) {
+    return minimizada ? 1 : maximizada ? 2 : 0;
+}
+
 void HabilitaMenu(bool Habilitado) {
     DoEvents();
     MousePointer(Habilitado ? vbDefault : vbHourglass);

@@ -71,6 +71,11 @@ void MdiMenu_QueryUnload();
 // normal window's place in twips.
 void MdiMenu_Unload();
 
+// The frame's WindowState (0 normal, 1 minimized, 2 maximized) from what the
+// desktop reports. A window minimized from maximized is both at once, and it
+// counts as minimized: the state it returns to is kept in EstadoAnterior.
+int EstadoDaJanela(bool minimizada, bool maximizada);
+
 // Disables the frame with the busy pointer while a longer action runs.
 void HabilitaMenu(bool Habilitado);
 

@@ -127,12 +127,15 @@ MdiMenuView::MdiMenuView() {
     timer->start(1000);
 
     // The stored place, or the design's made large enough for a calculation
-    // and its report.
+    // and its report. GuardaLugar stores the client area's corner, so that
+    // corner is what comes back: setGeometry places the client area, where
+    // move() would place the frame and shift the window by its title bar.
     const MdiMenu& m = mdiMenu();
     const MdiMenu projeto;
-    move(Px(m.Left), Px(m.Top));
-    if (m.Width == projeto.Width && m.Height == projeto.Height) resize(720, 600);
-    else resize(Px(m.Width), Px(m.Height));
+    const QSize tamanho = m.Width == projeto.Width && m.Height == projeto.Height
+                              ? QSize(720, 600)
+                              : QSize(Px(m.Width), Px(m.Height));
+    setGeometry(QRect(QPoint(Px(m.Left), Px(m.Top)), tamanho));
 
     CalculoView::aoAgir = [this] { SincronizaTudo(); };
     ConstroiMenus(Tipo::Frame);
@@ -357,7 +360,7 @@ void MdiMenuView::GuardaLugar() {
     m.Top = r.y() * 15;
     m.Width = r.width() * 15;
     m.Height = r.height() * 15;
-    m.WindowState = isMaximized() ? 2 : isMinimized() ? 1 : 0;
+    m.WindowState = EstadoDaJanela(isMinimized(), isMaximized());
 }
 
 void MdiMenuView::closeEvent(QCloseEvent* e) {
@@ -372,7 +375,7 @@ void MdiMenuView::closeEvent(QCloseEvent* e) {
 void MdiMenuView::changeEvent(QEvent* e) {
     if (e->type() == QEvent::WindowStateChange) {
         MdiMenu& m = mdiMenu();
-        m.WindowState = isMinimized() ? 1 : isMaximized() ? 2 : 0;
+        m.WindowState = EstadoDaJanela(isMinimized(), isMaximized());
         if (m.WindowState != 1) m.EstadoAnterior = m.WindowState;
     }
     QMainWindow::changeEvent(e);
@@ -440,7 +443,9 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
     };
     auto marcado = [&](QMenu* menu, const ItemMenu& frameItem, const ItemMenu* filhoItem,
                        void (*acao)()) {
-        QAction* a = item(menu, Q(frameItem.Caption), acao);
+        // A child's menu has its own captions: the report's "&Etiquetas de
+        // texto" carries a key the frame's doesn't.
+        QAction* a = item(menu, Q(filhoItem ? filhoItem->Caption : frameItem.Caption), acao);
         a->setCheckable(true);
         a->setChecked(filhoItem ? filhoItem->Checked : frameItem.Checked);
     };
@@ -473,8 +478,9 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
             if (calculo) mnuArquivoSalvarComo_Click(*calculo);
         },
         calculo && calculo->mnuArquivoSalvarComo.Enabled);
-    QAction* todos = item(arquivo, QStringLiteral("Salvar &todos"), nullptr,
-                          calculo && calculo->mnuArquivoSalvarTodos.Enabled);
+    QAction* todos =
+        item(arquivo, rel ? QStringLiteral("Salvar todos") : QStringLiteral("Salvar &todos"),
+             nullptr, calculo && calculo->mnuArquivoSalvarTodos.Enabled);
     todos->setVisible(!frame);
     arquivo->addSeparator();
     QMenu* exportar = arquivo->addMenu(QStringLiteral("Exportar"));
@@ -584,9 +590,10 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
         if (mnuAjudaDocumentacaoTabela) mnuAjudaDocumentacaoTabela(1);
     });
     ajuda->addSeparator();
-    item(ajuda, QStringLiteral("&Sobre o Tramelo..."), [] {
-        if (MostraSobre) MostraSobre();
-    });
+    item(ajuda,
+         rel ? QStringLiteral("&Sobre o Tramelo") : QStringLiteral("&Sobre o Tramelo..."), [] {
+             if (MostraSobre) MostraSobre();
+         });
 }
 
 } // namespace tramelo

@@ -72,10 +72,11 @@ void AdicionaMRU(const std::string& Arquivo) {
 
 std::string EncurtaCaminho(const std::string& F) {
     if (Len(F) < 31) return F;
-    // The first three characters stand for the drive part; the folder walk
-    // starts behind them.
-    std::string t = Left(F, 3);
-    int p = 3;
+    // The root stands whole and the folder walk starts behind it: "/" on
+    // this system; a drive and its separator ("C:/") in a path from Windows.
+    const int raiz = Left(F, 1) == "/" ? 1 : 3;
+    std::string t = Left(F, raiz);
+    int p = raiz;
     for (;;) {
         int q = InStr(p + 1, F, "/");
         if (q == 0) break;

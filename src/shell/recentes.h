@@ -31,8 +31,8 @@ struct MenuRecentes {
 // the first doesn't.
 void AtualizaMRU(MenuRecentes& Janela);
 
-// A path for a menu caption: under 31 characters whole; longer, its first 3
-// characters, then each folder name of more than 5 characters as its first 3
+// A path for a menu caption: under 31 characters whole; longer, its root
+// ("/", or a drive's first 3 characters such as "C:/"), then each folder name of more than 5 characters as its first 3
 // in proper case and "../", the others whole in proper case and "/", then
 // the file name as it stands.
 std::string EncurtaCaminho(const std::string& F);

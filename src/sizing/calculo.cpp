@@ -162,8 +162,8 @@ bool Executa(FrmCalcTramelo& f, Execucao& x) {
     Cabecalho(r, " Dados para cálculo - " +
                      Texto(c.NomePlacas.data(), c.NomePlacas.size(), f.Placa) + " ");
     AddRel(r, "");
-    LinhaRelatorio(r, "Fluido utilizado", c.NomeFluidos[0], "");
-    LinhaRelatorio(r, "Tipo de tomada", c.NomeTomadas[0], "");
+    LinhaRelatorio(r, "Fluido utilizado", f.NomeFluido, "");
+    LinhaRelatorio(r, "Tipo de tomada", f.NomeTomada, "");
     LinhaRelatorio(r, "Tag", f.txtTag.Text(), "");
 
     if (!LeCampos(f, x)) return false;

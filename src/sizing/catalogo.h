@@ -10,9 +10,9 @@ namespace tramelo {
 
 struct Catalogo {
     std::array<std::string, 3> NomePlacas;
-    // Entry 0 is a live slot: the fluid text last selected in any calculation.
+    // Entry 0 is unused: each calculation keeps the names it chose itself.
     std::array<std::string, 4> NomeFluidos;
-    // Entry 0 is a live slot: the tap text last selected in any calculation.
+    // Entry 0 is unused, as for the fluids.
     std::array<std::string, 6> NomeTomadas;
     std::array<std::string, 31> NomeDados;
     std::array<std::string, 31> NomeEscalas;
@@ -23,8 +23,7 @@ struct Catalogo {
 // The program's catalogue, shared by all calculations.
 Catalogo& catalogo();
 
-// The start-up fill of modCalculo. Runs again harmlessly; the live slots are
-// emptied.
+// The start-up fill of modCalculo. Runs again harmlessly.
 void CarregaCatalogo();
 
 } // namespace tramelo

@@ -124,7 +124,7 @@ Variante SubDisplay(FrmCalcTramelo& f) {
         Rotulo* lbl = f.lblDados(f.Campo);
         MsgBox("O campo '" + (lbl ? lbl->Caption : std::string()) + "' não foi preenchido",
                vbExclamation, "Todos os campos devem ser preenchidos");
-        f.foco = "txtDados(" + std::to_string(f.Campo) + ")";
+        f.PedeFoco("txtDados(" + std::to_string(f.Campo) + ")");
     }
     std::string_view unidade;
     if (CaixaCombinacao* cbo = f.cboDados(f.Campo)) {

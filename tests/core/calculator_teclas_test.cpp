@@ -1,5 +1,6 @@
 // The desk calculator driven key by key, as a user presses them.
 #include "calculator/calculadora.h"
+#include "calculator/lugar.h"
 
 #include "caixas_roteiro.h"
 
@@ -296,6 +297,23 @@ TEST(CalculatorTeclas, TabelaDeEstados) {
     Tecla(c, '-');
     EXPECT_EQ(c.UltimaEntrada, "OPS");
     EXPECT_EQ(c.Readout, "5,");
+}
+
+TEST(CalculadoraTeclas, AbreSobOuSobreOCampo) {
+    // A field from 300 to 321 on screen, in a calculation window ending at
+    // the row's bottom; the calculator is 190 high with its title bar.
+    struct Caso {
+        int fundoJanela, x, y;
+    } casos[] = {
+        {512, 40, 321}, // room under the field: it opens there
+        {511, 40, 110}, // an exact fit goes above, ending at the field's top
+        {400, 40, 110}, // a field near the window's bottom
+    };
+    for (const Caso& c : casos) {
+        const PontoTela p = LugarDaCalculadora(190, 40, 300, 321, c.fundoJanela);
+        EXPECT_EQ(p.x, c.x) << c.fundoJanela;
+        EXPECT_EQ(p.y, c.y) << c.fundoJanela;
+    }
 }
 
 } // namespace

@@ -3,8 +3,10 @@
 #include "caixas_roteiro.h"
 #include "calculo_pronto.h"
 #include "document/campos.h"
+#include "document/ciclo.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janela.h"
+#include "report/janela_relatorio.h"
 #include "shell/barras.h"
 #include "shell/mod_base.h"
 #include "sizing/catalogo.h"
@@ -116,6 +118,13 @@ TEST(DocumentJanela, DesativacaoDesligaOsBotoesDoDocumento) {
     // The next activation sets them again for itself.
     Form_Activate(*f);
     EXPECT_TRUE(m.tbPadrao.Botao("Salvar")->Enabled && m.tbCalculo.Botao("Calcular")->Enabled);
+
+    // The report's activation lights its two buttons; unloading the
+    // calculation unloads its report, and they go out with it.
+    Relatorio_Activate(*f->Relatorio);
+    Form_Unload(*f);
+    for (const char* key : {"Imprimir", "Exportar"})
+        EXPECT_FALSE(m.tbCalculo.Botao(key)->Enabled) << key;
 }
 
 TEST(DocumentJanela, CabecalhoDoRelatorioVoltaNaAtivacao) {

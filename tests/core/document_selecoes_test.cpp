@@ -68,7 +68,7 @@ TEST(DocumentSelecoes, NomeDoFluido) {
         EXPECT_EQ(e.pedidos[0].titulo, "Tipo de fluido: " + c.itemAntes);
         EXPECT_EQ(e.pedidos[0].padrao, c.proposta);
         EXPECT_EQ(f->cboFluido.Text(), c.itemDepois);
-        EXPECT_EQ(catalogo().NomeFluidos[0], c.itemDepois);
+        EXPECT_EQ(f->NomeFluido, c.itemDepois);
     }
 
     // A file being read names its fluid itself: no question.
@@ -79,7 +79,7 @@ TEST(DocumentSelecoes, NomeDoFluido) {
     Entradas e;
     f->cboFluido.DefineListIndex(1);
     EXPECT_TRUE(e.pedidos.empty());
-    EXPECT_EQ(catalogo().NomeFluidos[0], "Ar (Gas)");
+    EXPECT_EQ(f->NomeFluido, "Ar (Gas)");
     EXPECT_EQ(f->Fluido, 1);
 }
 
@@ -97,7 +97,7 @@ TEST(DocumentSelecoes, OrdemDasEscolhasEListaDeDados) {
     EXPECT_FALSE(f->txtDados(9)->Enabled);                  // in use, but off
     f->cboTomada.DefineListIndex(3);
     EXPECT_EQ(f->Tomada, 4);
-    EXPECT_EQ(catalogo().NomeTomadas[0], "Corner Taps");
+    EXPECT_EQ(f->NomeTomada, "Corner Taps");
     EXPECT_TRUE(f->picLista.Enabled && f->txtTag.Enabled && f->cmdCalcular.Enabled);
     EXPECT_TRUE(f->txtDados(9)->Enabled && f->picMenu.corAtiva);
     EXPECT_TRUE(mdiMenu().tbCalculo.Botao("Calcular")->Enabled);
@@ -118,7 +118,7 @@ TEST(DocumentSelecoes, TomadaNaoOferecidaVoltaAPrimeira) {
     EXPECT_EQ(caixas.mostradas[0].estilo, vbExclamation);
     EXPECT_EQ(f->cboTomada.ListIndex(), 0);
     EXPECT_EQ(f->Tomada, 1);
-    EXPECT_EQ(catalogo().NomeTomadas[0], "Flange Taps");
+    EXPECT_EQ(f->NomeTomada, "Flange Taps");
 }
 
 TEST(DocumentSelecoes, FatorPerdaPelaUnidadeDoDiferencial) {

@@ -44,7 +44,8 @@ class TelaAberturaRoteiro : public TelaAbertura {
 };
 
 struct Lugar {
-    int Left, Top, Width, Height, WindowState;
+    int Left, Top, Width, Height;
+    bool minimizada, maximizada; // as the desktop reports them
 };
 
 class TelaMenuRoteiro : public TelaMenu {
@@ -66,13 +67,13 @@ class TelaMenuRoteiro : public TelaMenu {
         m.Top = lugar.Top;
         m.Width = lugar.Width;
         m.Height = lugar.Height;
-        m.WindowState = lugar.WindowState;
+        m.WindowState = EstadoDaJanela(lugar.minimizada, lugar.maximizada);
         eventos.push_back("lugar guardado");
     }
     void DescarregaOutras() override { eventos.push_back("outras descarregadas"); }
     Registro& eventos;
     bool visivel = false, mostraFalha = false;
-    Lugar lugar{60, 630, 6495, 5730, 0};
+    Lugar lugar{60, 630, 6495, 5730, false, false};
 };
 
 class LigacaoRoteiro : public LigacaoInstancias {
@@ -333,11 +334,13 @@ TEST_F(ShellInicio, EstadoAnteriorNoRedimensionamento) {
 
 TEST_F(ShellInicio, SaidaGuardaBarrasEstadoELugar) {
     struct Caso {
-        int estado;
+        bool minimizada, maximizada;
         const char* guardado;
     };
-    for (const Caso& c : {Caso{0, "0"}, Caso{1, "0"}, Caso{2, "2"}}) {
-        SCOPED_TRACE(c.estado);
+    // Minimized from maximized is both at once: stored as minimized.
+    for (const Caso& c : {Caso{false, false, "0"}, Caso{true, false, "0"},
+                          Caso{false, true, "2"}, Caso{true, true, "0"}}) {
+        SCOPED_TRACE(c.guardado);
         std::filesystem::remove_all(pasta / "config");
         mdiMenu() = MdiMenu{};
         MdiMenu_Load();
@@ -345,7 +348,7 @@ TEST_F(ShellInicio, SaidaGuardaBarrasEstadoELugar) {
         AdicionaMRU("/home/ana/a.trl");
         AbreCalculo(false, std::string()); // nothing to save: no question
         eventos.clear();
-        tela.lugar = {1200, 900, 9000, 6600, c.estado};
+        tela.lugar = {1200, 900, 9000, 6600, c.minimizada, c.maximizada};
 
         ASSERT_TRUE(FechaPrograma());
 
@@ -367,7 +370,7 @@ TEST_F(ShellInicio, SaidaGuardaBarrasEstadoELugar) {
         MdiMenu_Load();
         EXPECT_EQ(mdiMenu().Left, 1200);
         EXPECT_EQ(mdiMenu().Height, 6600);
-        EXPECT_EQ(mdiMenu().WindowState, c.estado == 2 ? 2 : 0);
+        EXPECT_EQ(mdiMenu().WindowState, c.guardado[0] == '2' ? 2 : 0);
         EXPECT_FALSE(mdiMenu().mnuExibirEtiqueta.Checked);
         EXPECT_TRUE(mdiMenu().mnuExibirStatusBar.Checked);
     }
@@ -394,6 +397,16 @@ TEST_F(ShellInicio, SaidaCanceladaNumaPergunta) {
     EXPECT_EQ(LeConfig("FilesMRU", " 1"), "/home/ana/b.trl");
     EXPECT_EQ(LeConfig("Config", "Barra0"), "");
     EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "");
+
+    // A session that ends letting nobody ask stores bars and place all the
+    // same, asks nothing and unloads nothing.
+    tela.lugar = {1200, 900, 9000, 6600, false, true};
+    GuardaSessao();
+    EXPECT_EQ(caixas.mostradas.size(), 1u);
+    EXPECT_EQ(Calculos().size(), 1u);
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState"), "2");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1200");
 
     caixas.respostas = {vbNo};
     EXPECT_TRUE(FechaPrograma());

@@ -46,18 +46,20 @@ TEST(ShellRecentes, EncurtaCaminho) {
         // 30 characters show whole, their case untouched; 31 are shortened.
         {"/home/ana/calculos/agua123.trl", "/home/ana/calculos/agua123.trl"},
         {"/HOME/ANA/CALCULOS/AGUA123.TRL", "/HOME/ANA/CALCULOS/AGUA123.TRL"},
-        {"/home/ana/calculos/agua1234.trl", "/hoMe/Ana/Cal../agua1234.trl"},
+        // A path from the root shortens from its first folder; its "/" stays.
+        {"/home/ana/calculos/agua1234.trl", "/Home/Ana/Cal../agua1234.trl"},
+        {"/home/ana/Projetos/medicoes/a.trl", "/Home/Ana/Pro../Med../a.trl"},
         // The worked example, with "/" for separator.
         {"C:/Arquivos de programas/Saves/a.trl", "C:/Arq../Saves/a.trl"},
         // A folder name of 5 characters stays whole, 6 become 3 and "../";
         // capitals go to proper case; the file name stands as it is.
-        {"/mnt/DADOS/PLANTA/calculo-01.trl", "/mnT/Dados/Pla../calculo-01.trl"},
+        {"/mnt/DADOS/PLANTA/calculo-01.trl", "/Mnt/Dados/Pla../calculo-01.trl"},
         {"C:/ARQUIVOS/saves/pasta6/longo-nome.trl", "C:/Arq../Saves/Pas../longo-nome.trl"},
         // Words begin after blanks only; accented letters change case too.
-        {"/srv/o meu projeto/calculo-final.trl", "/srV/O M../calculo-final.trl"},
-        {"/srv/ÁGUA/PASTA-NOVA/medições-2024.trl", "/srV/Água/Pas../medições-2024.trl"},
-        {"/srv/água fria/ética/medições-2024.trl", "/srV/Águ../Ética/medições-2024.trl"},
-        {"/srv/ab-cd/2abcd/calculo-final-01.trl", "/srV/Ab-cd/2abcd/calculo-final-01.trl"},
+        {"/srv/o meu projeto/calculo-final.trl", "/Srv/O M../calculo-final.trl"},
+        {"/srv/ÁGUA/PASTA-NOVA/medições-2024.trl", "/Srv/Água/Pas../medições-2024.trl"},
+        {"/srv/água fria/ética/medições-2024.trl", "/Srv/Águ../Ética/medições-2024.trl"},
+        {"/srv/ab-cd/2abcd/calculo-final-01.trl", "/Srv/Ab-cd/2abcd/calculo-final-01.trl"},
         // No separator after the first 3 characters: only the rest.
         {"sem-separador-nenhum-com-31-car", "sem-separador-nenhum-com-31-car"},
     };

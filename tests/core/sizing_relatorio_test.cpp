@@ -40,10 +40,14 @@ TEST(SizingRelatorio, RelatoriosInteiros) {
     auto ar = ArSeco();
     ASSERT_EQ(cmdCalcular_Click(*ar).fim, FimCalculo::Concluido);
     ConfereDourado("gas_volume_corner.txt", ar->Relatorio->lstRelatorio);
+    // With the gas chosen last, the water's report still names its own
+    // fluid and taps.
+    ASSERT_EQ(cmdCalcular_Click(*agua).fim, FimCalculo::Concluido);
+    ConfereDourado("liquido_flange.txt", agua->Relatorio->lstRelatorio);
 
     auto gasMassa = ArSeco();
     gasMassa->Tomada = 2;
-    catalogo().NomeTomadas[0] = "Radius Taps";
+    gasMassa->NomeTomada = "Radius Taps";
     gasMassa->cboDados(2)->DefineListIndex(2); // T/h
     gasMassa->txtDados(2)->DefineTexto("1,5");
     gasMassa->cboDados(5)->DefineListIndex(2); // mmCA
@@ -177,7 +181,7 @@ TEST(SizingRelatorio, TomadaCincoLiquidoPeloValorDireto) {
     CaixasRoteiro caixas;
     auto f = Agua();
     f->Tomada = 5;
-    catalogo().NomeTomadas[0] = catalogo().NomeTomadas[5];
+    f->NomeTomada = catalogo().NomeTomadas[5];
     Execucao x;
     ASSERT_EQ(cmdCalcular_Click(*f, &x).fim, FimCalculo::Concluido);
     EXPECT_EQ(x.passes, 0);

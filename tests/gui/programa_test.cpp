@@ -96,6 +96,15 @@ TEST_F(Programa, CalculaSalvaFechaEReabre) {
     ASSERT_GT(relatorio.size(), 30);
     EXPECT_TRUE(relatorio.contains(QStringLiteral(" Beta = d/D _______________________ 0,60463")));
     EXPECT_TRUE(janela().VistaRelatorio(*calculo().Relatorio)->isVisibleTo(&janela()));
+    // The report, now the active window, shows its own menu bar's texts.
+    QApplication::processEvents();
+    for (const std::vector<QString>& caminho : {std::vector<QString>{"&Arquivo", "Salvar todos"},
+                                                {"E&xibir", "&Etiquetas de texto"},
+                                                {"Aj&uda", "&Sobre o Tramelo"}}) {
+        QAction* a = Entrada(janela(), caminho);
+        ASSERT_NE(a, nullptr) << caminho.back().toStdString();
+        EXPECT_EQ(a->text(), caminho.back());
+    }
 
     // Saved through the dialog; closed with the question; reopened from the
     // recent files: the same lines, and the same as the command-line tool's.
@@ -138,6 +147,12 @@ TEST_F(Programa, CalculaSalvaFechaEReabre) {
 
 TEST_F(Programa, FalhaNoCalculoMostraOErroEContinua) {
     PreencheAgua();
+    // Tab follows the display order: from the tag to the flow; the density
+    // mode stands lower, just above the densities.
+    QLineEdit* tag = Widget<QLineEdit>(&vista(), "txtTag");
+    tag->setFocus();
+    QTest::keyClick(tag, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), campo(2));
     // Pasted text isn't filtered: a letter reaches the field.
     QLineEdit* e = campo(5);
     e->setFocus();
@@ -157,6 +172,16 @@ TEST_F(Programa, FalhaNoCalculoMostraOErroEContinua) {
     Botao(janela(), "tbCalculo", "Calcular");
     EXPECT_EQ(caixas.mostradas.size(), 1u);
     EXPECT_GT(linhasDoRelatorio()->count(), 30);
+
+    // An empty field met by "Calcular": the message, and the focus is left
+    // in that field.
+    Digita(campo(8), QString());
+    campo(9)->setFocus();
+    Botao(janela(), "tbCalculo", "Calcular");
+    ASSERT_EQ(caixas.mostradas.size(), 2u);
+    EXPECT_EQ(caixas.mostradas[1].texto, "O campo 'Temperatura de leitura' não foi preenchido");
+    QApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), campo(8));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The splash, the about box, the tips and the options as a user meets them.
 #include "pasta_temporaria.h"
 
+#include "app/servicos_qt.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/canal.h"
 #include "shell/abertura_view.h"
@@ -12,12 +13,17 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCursor>
 #include <QDeadlineTimer>
 #include <QLabel>
+#include <QPageSetupDialog>
+#include <QPrinter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -196,6 +202,37 @@ TEST_F(ShellJanelas, SobreAbreCadaLinkPelaSuaCaixa) {
     EXPECT_EQ(sistema.abertos,
               (std::vector<std::string>{"https://www.quillon.com.br",
                                         "mailto:suporte@quillon.com.br?Subject=Sobre o Tramelo"}));
+    // The desktop gets each as an address of its scheme, the mail with its
+    // subject; a path stays a local file.
+    const QUrl email = EnderecoParaUrl(sistema.abertos.at(1));
+    EXPECT_EQ(email.scheme(), "mailto");
+    EXPECT_EQ(email.path(), "suporte@quillon.com.br");
+    EXPECT_EQ(email.query(QUrl::FullyDecoded), "Subject=Sobre o Tramelo");
+    EXPECT_EQ(EnderecoParaUrl(sistema.abertos.at(0)).host(), "www.quillon.com.br");
+    EXPECT_TRUE(EnderecoParaUrl("/home/ana/Relatorios").isLocalFile());
+}
+
+TEST_F(ShellJanelas, ConfigurarImpressaoEscolheAPaginaDaProximaImpressao) {
+    // A page set-up, not a print dialog: what is chosen there stays in the
+    // printer that the next print draws on.
+    QPrinter& impressora = ImpressoraDoPrograma();
+    const QPageLayout antes = impressora.pageLayout();
+    DialogosQt dialogos;
+    ConfiguraDialogo d;
+    d.Flags = cdlPDPrintSetup;
+    bool confirmado = false;
+    NoModal<QPageSetupDialog>([&] { confirmado = dialogos.ShowPrinter(d); },
+                              [](QPageSetupDialog& p) {
+                                  EXPECT_EQ(p.windowTitle(), "Configurar impressão");
+                                  EXPECT_NE(Filho<QComboBox>(p, "impressora"), nullptr);
+                                  auto* paisagem = Filho<QRadioButton>(p, "landscape");
+                                  ASSERT_NE(paisagem, nullptr);
+                                  paisagem->click();
+                                  p.accept();
+                              });
+    EXPECT_TRUE(confirmado);
+    EXPECT_EQ(impressora.pageLayout().orientation(), QPageLayout::Landscape);
+    impressora.setPageLayout(antes);
 }
 
 TEST_F(ShellJanelas, SobreSublinhaOLinkSoComOPonteiroDentroDaCaixa) {

@@ -1,0 +1,31 @@
+// The ways out that don't start at the program's own windows: a SIGTERM and
+// the end of the desktop session. Both take the road of the main window's
+// close: recent files, each unsaved calculation asked about, bars and place.
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class QSessionManager;
+
+namespace tramelo {
+
+class EncerramentoQt : public QObject {
+  public:
+    // `fecha` closes the main window as its close box does, and says whether
+    // it closed (a calculation may refuse). `guarda` stores what the exit
+    // stores, asking nothing and unloading nothing: for a session that lets
+    // no program ask.
+    EncerramentoQt(std::function<bool()> fecha, std::function<void()> guarda);
+    ~EncerramentoQt() override;
+
+  private:
+    void Sinal();
+    void FimDaSessao(QSessionManager& sessao);
+
+    std::function<bool()> fecha_;
+    std::function<void()> guarda_;
+};
+
+} // namespace tramelo
