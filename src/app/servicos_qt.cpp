@@ -1,6 +1,7 @@
 #include "app/servicos_qt.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QCursor>
 #include <QDesktopServices>
 #include <QDir>
@@ -9,6 +10,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QUrl>
+#include <QVBoxLayout>
 
 namespace tramelo {
 
@@ -80,8 +82,18 @@ bool DialogosQt::ShowPrinter(ConfiguraDialogo& d) {
     // on every desktop here.
     dialogo.setOption(QAbstractPrintDialog::PrintSelection, false);
     dialogo.setOption(QAbstractPrintDialog::PrintToFile, true);
+    // The tab belongs to the dialog, which ends with this call.
+    auto* aba = new QWidget(&dialogo);
+    aba->setWindowTitle(QStringLiteral("ISO 5167-2"));
+    auto* iso = new QCheckBox(
+        QStringLiteral("Imprimir a verificação pela ISO 5167-2:2003 como segunda página"), aba);
+    iso->setObjectName(QStringLiteral("chkSegundaPaginaIso"));
+    iso->setChecked(d.SegundaPaginaIso);
+    (new QVBoxLayout(aba))->addWidget(iso);
+    dialogo.setOptionTabs({aba});
     if (dialogo.exec() != QDialog::Accepted) return false;
     d.Copies = impressora.copyCount();
+    d.SegundaPaginaIso = iso->isChecked();
     return true;
 }
 
