@@ -131,8 +131,10 @@ int main(int argc, char** argv) {
     Widget<QLineEdit>(&agua, "txtDados(9)")->setFocus();
     Botao(programa.janela(), "tbCalculo", "Calcular");
     Captura(&programa.janela(), "04-relatorio");
-    // The same report's ISO 5167-2 tab.
-    if (auto* abas = programa.janela().findChild<QTabWidget*>(QStringLiteral("abasRelatorio"))) {
+    // The same report's ISO 5167-2 tab (every calculation has a report,
+    // shown or not).
+    for (auto* abas : programa.janela().findChildren<QTabWidget*>(QStringLiteral("abasRelatorio"))) {
+        if (!abas->isVisible()) continue;
         abas->setCurrentIndex(1);
         Captura(&programa.janela(), "04-relatorio-iso");
         abas->setCurrentIndex(0);
