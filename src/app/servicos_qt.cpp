@@ -89,7 +89,9 @@ bool DialogosQt::ShowPrinter(ConfiguraDialogo& d) {
         QStringLiteral("Imprimir a verificação pela ISO 5167-2:2003 como segunda página"), aba);
     iso->setObjectName(QStringLiteral("chkSegundaPaginaIso"));
     iso->setChecked(d.SegundaPaginaIso);
-    (new QVBoxLayout(aba))->addWidget(iso);
+    auto* pilha = new QVBoxLayout(aba);
+    pilha->addWidget(iso);
+    pilha->addStretch();
     dialogo.setOptionTabs({aba});
     if (dialogo.exec() != QDialog::Accepted) return false;
     d.Copies = impressora.copyCount();
