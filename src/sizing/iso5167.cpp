@@ -2,6 +2,7 @@
 
 #include "sizing/execucao.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <numbers>
@@ -18,7 +19,7 @@ constexpr double Ct0 = 0.043, Ct1 = 0.080, Ct1e = 10, Ct2 = 0.123, Ct2e = 7, CtA
 constexpr double Cd = 0.031, CdM = 0.8;
 // §5.3.2.1: the term added below D = 71,12 mm, D in mm over 25,4.
 constexpr double DPequeno = 71.12, CPequeno = 0.011, PolegadaMm = 25.4;
-// §5.2.1 (tap spacing): L1 and L'2 of D and D/2 taps; flange taps are 25,4 / D.
+// §5.2 (pressure tappings): L1 and L'2 of D and D/2 taps; flange taps are 25,4 / D.
 constexpr double L1Raio = 1, L2Raio = 0.47;
 // §5.3.2.2, Equation (5): expansibility.
 constexpr double E0 = 0.351, Eb4 = 0.256, Eb8 = 0.93;
@@ -94,7 +95,8 @@ double Expansibilidade(const EntradaIso& e, double b) {
 }
 
 // qm = C/√(1−β⁴) · ε · π/4 · d² · √(2 Δp ρ1), written as
-// Cεβ²/√(1−β⁴) = A2 and solved by fixed point on β (ISO/TR 9464 style).
+// Cεβ²/√(1−β⁴) = A2 and solved by fixed point on β, the iteration of
+// ISO 5167-1:2003, Annex A.
 // Returns false when it doesn't settle.
 bool DiametroOrificio(const EntradaIso& e, ResultadoIso& r) {
     const double D = e.D_mm / 1000;
