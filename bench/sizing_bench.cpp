@@ -5,6 +5,7 @@
 #include "plataforma/numero.h"
 #include "sizing/calculo.h"
 #include "sizing/execucao.h"
+#include "sizing/iso5167.h"
 #include "sizing/iteracao.h"
 
 #include <benchmark/benchmark.h>
@@ -62,6 +63,31 @@ void IteracaoBeta(benchmark::State& estado) {
     estado.counters["passos"] = x.passes;
 }
 BENCHMARK(IteracaoBeta);
+
+// The ISO 5167-2 check of a completed run alone: what each "Calcular" adds to
+// the two runs above.
+void VerificaIso(benchmark::State& estado, std::unique_ptr<FrmCalcTramelo> f) {
+    CaixasRoteiro caixas;
+    Execucao x;
+    cmdCalcular_Click(*f, &x);
+    const EntradaIso e = EntradaIso5167(x, f->Fluido, f->Placa, f->Tomada, true);
+    for (auto _ : estado) {
+        ResultadoIso r = CalculaIso5167(e);
+        benchmark::DoNotOptimize(r);
+    }
+}
+void VerificaIsoLiquido(benchmark::State& estado) {
+    auto f = CalculoPronto(0, 1);
+    Preenche(*f, {{2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"},
+                  {18, "998"}, {20, "1"}, {28, "0,8"}});
+    VerificaIso(estado, std::move(f));
+}
+BENCHMARK(VerificaIsoLiquido);
+void VerificaIsoAr(benchmark::State& estado) {
+    CaixasRoteiro caixas;
+    VerificaIso(estado, Ar());
+}
+BENCHMARK(VerificaIsoAr);
 
 void FormataQuarentaNumeros(benchmark::State& estado) {
     std::string s;

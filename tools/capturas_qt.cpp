@@ -9,6 +9,7 @@
 #include "calculator/calculadora_view.h"
 #include "document/frm_calc_tramelo.h"
 #include "report/frm_relatorio.h"
+#include "report/impressao.h"
 #include "shell/abertura.h"
 #include "shell/abertura_view.h"
 #include "shell/dicas_view.h"
@@ -26,6 +27,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
+#include <QTabWidget>
 
 #include <cstdio>
 
@@ -129,6 +131,14 @@ int main(int argc, char** argv) {
     Widget<QLineEdit>(&agua, "txtDados(9)")->setFocus();
     Botao(programa.janela(), "tbCalculo", "Calcular");
     Captura(&programa.janela(), "04-relatorio");
+    // The same report's ISO 5167-2 tab (every calculation has a report,
+    // shown or not).
+    for (auto* abas : programa.janela().findChildren<QTabWidget*>(QStringLiteral("abasRelatorio"))) {
+        if (!abas->isVisible()) continue;
+        abas->setCurrentIndex(1);
+        Captura(&programa.janela(), "04-relatorio-iso");
+        abas->setCurrentIndex(0);
+    }
 
     for (int i = 0; i < 2; ++i) {
         mnuAjudaDocumentacaoTabela(i);
@@ -176,12 +186,13 @@ int main(int argc, char** argv) {
     r.txtData = "08:30 - segunda-feira, 23 de novembro de 2026";
     r.txtOS = "OS-1234";
     r.txtCliente = "Usina Norte";
+    DialogoImpressao().SegundaPaginaIso = true; // the ISO 5167-2 check on page 2
     ImprimeRelatorio(r);
     const QString png = pasta + QStringLiteral("/11-folha-de-dados");
     if (QProcess::execute(QStringLiteral("pdftoppm"),
                           {QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("70"),
                            QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"),
-                           QStringLiteral("1"), pdf, png}) == 0)
-        std::printf("%s-1.png\n", qPrintable(png));
+                           QStringLiteral("2"), pdf, png}) == 0)
+        std::printf("%s-1.png\n%s-2.png\n", qPrintable(png), qPrintable(png));
     return 0;
 }

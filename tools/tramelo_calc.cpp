@@ -32,17 +32,46 @@ std::string PastaDoPrograma(const char* argv0) {
     return tramelo::PastaDadosPrograma(exe.parent_path().string());
 }
 
+// The ISO 5167-2 check as JSON: unrounded numbers, null where it computed
+// nothing or a bound is open.
+nlohmann::json JsonIso(const tramelo::ResultadoIso& r) {
+    nlohmann::json j;
+    j["aplicavel"] = r.aplicavel;
+    j["motivo"] = r.aplicavel ? nlohmann::json(nullptr) : nlohmann::json(r.motivo);
+    auto numero = [&](double v) { return r.aplicavel ? nlohmann::json(v) : nlohmann::json(nullptr); };
+    j["beta"] = numero(r.beta);
+    j["d_mm"] = numero(r.d_mm);
+    j["C"] = numero(r.C);
+    j["epsilo"] = numero(r.epsilo);
+    j["perda_permanente_Pa"] = numero(r.perda_permanente_Pa);
+    j["incerteza_C_pct"] = numero(r.incerteza_C_pct);
+    j["incerteza_epsilo_pct"] = numero(r.incerteza_epsilo_pct);
+    j["diferenca_d_pct"] = numero(r.diferenca_d_pct);
+    j["limites"] = nlohmann::json::array();
+    auto limite = [](const std::optional<double>& v) {
+        return v ? nlohmann::json(*v) : nlohmann::json(nullptr);
+    };
+    for (const auto& l : r.limites)
+        j["limites"].push_back({{"nome", l.nome},
+                                {"valor", l.valor},
+                                {"minimo", limite(l.minimo)},
+                                {"maximo", limite(l.maximo)},
+                                {"ok", l.ok}});
+    return j;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     CLI::App app{"Calcula os arquivos de cálculo (.trl) do Tramelo e imprime seus relatórios.",
                  "tramelo-calc"};
-    bool json = false, sim = false;
+    bool json = false, sim = false, iso = false;
     std::vector<std::string> arquivos;
     app.add_flag("--json", json, "Saída em JSON: um objeto por arquivo");
     app.add_flag(
         "--sim", sim,
         "Responde \"Sim\" a \"Deseja alterar o dados para cálculo?\" (o padrão é \"Não\")");
+    app.add_flag("--iso", iso, "Acrescenta a cada relatório a verificação pela ISO 5167-2:2003");
     app.add_option("ARQUIVO", arquivos, "Arquivos de cálculo (.trl)")->required();
     try {
         app.parse(argc, argv);
@@ -50,7 +79,7 @@ int main(int argc, char** argv) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
         app.exit(e);
-        std::cerr << "uso: tramelo-calc [--json] [--sim] ARQUIVO.trl...\n";
+        std::cerr << "uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...\n";
         return 64;
     }
 
@@ -77,11 +106,17 @@ int main(int argc, char** argv) {
                 objeto["erro"] = {{"numero", r.erro->numero}, {"descricao", r.erro->descricao}};
             else
                 objeto["erro"] = nullptr;
+            objeto["iso5167"] = JsonIso(r.iso);
             saida.push_back(std::move(objeto));
         } else {
             if (k > 0) std::cout << "\n";
             for (const std::string& l : r.exportacao)
                 std::cout << l << "\n";
+            if (iso) {
+                std::cout << "\n";
+                for (const std::string& l : tramelo::LinhasIso5167(r.iso))
+                    std::cout << l << "\n";
+            }
         }
     }
     if (json)

@@ -91,6 +91,13 @@ void ImpressoraQt::ImprimeLinha(const std::vector<PecaLinha>& pecas) {
     ProximaLinha();
 }
 
+void ImpressoraQt::NovaPagina() {
+    Pintor();
+    if (!impressora_.newPage()) throw Falha(ErroImpressora);
+    x_ = 0;
+    y_ = 0;
+}
+
 void ImpressoraQt::FimDocumento() {
     // A job with nothing printed ends without a page.
     if (!pintor_ || !pintor_->isActive()) return;

@@ -24,6 +24,7 @@ class ImpressoraQt : public Impressora {
     void DefineCopias(int copias) override;
     void DefineFonte(const std::string& nome, int tamanho, bool negrito) override;
     void ImprimeLinha(const std::vector<PecaLinha>& pecas) override;
+    void NovaPagina() override;
     void FimDocumento() override;
 
   private:

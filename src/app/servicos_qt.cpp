@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QCursor>
 #include <QDesktopServices>
@@ -14,6 +15,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QUrl>
+#include <QVBoxLayout>
 
 namespace tramelo {
 
@@ -143,8 +145,20 @@ bool DialogosQt::ShowPrinter(ConfiguraDialogo& d) {
     // on every desktop here.
     dialogo.setOption(QAbstractPrintDialog::PrintSelection, false);
     dialogo.setOption(QAbstractPrintDialog::PrintToFile, true);
+    // The tab belongs to the dialog, which ends with this call.
+    auto* aba = new QWidget(&dialogo);
+    aba->setWindowTitle(QStringLiteral("ISO 5167-2"));
+    auto* iso = new QCheckBox(
+        QStringLiteral("Imprimir a verificação pela ISO 5167-2:2003 como segunda página"), aba);
+    iso->setObjectName(QStringLiteral("chkSegundaPaginaIso"));
+    iso->setChecked(d.SegundaPaginaIso);
+    auto* pilha = new QVBoxLayout(aba);
+    pilha->addWidget(iso);
+    pilha->addStretch();
+    dialogo.setOptionTabs({aba});
     if (dialogo.exec() != QDialog::Accepted) return false;
     d.Copies = impressora.copyCount();
+    d.SegundaPaginaIso = iso->isChecked();
     return true;
 }
 

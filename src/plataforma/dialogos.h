@@ -25,6 +25,7 @@ struct ConfiguraDialogo {
     std::string InitDir;
     std::string FileName;    // proposed name; the chosen one on return
     int Copies = 1;          // print dialog: the copies chosen
+    bool SegundaPaginaIso = false; // print dialog: the ISO 5167-2 check on a second page
 };
 
 class Dialogos {

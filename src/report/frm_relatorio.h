@@ -19,6 +19,9 @@ struct FrmRelatorio {
 
     // The line store; every line begins with the blank that AddRel adds.
     std::vector<std::string> lstRelatorio;
+    // The ISO 5167-2:2003 check of the same run, as text lines for its own
+    // tab and the data sheet's second page; never part of the report.
+    std::vector<std::string> lstIso;
 
     // Header fields, and their labels (data: printing and export use them).
     std::string txtData = "Abrindo";

@@ -34,7 +34,28 @@ void Linha(std::vector<PecaLinha> pecas = {}) {
     Printer().ImprimeLinha(pecas);
 }
 
+// The ISO 5167-2:2003 check under its own title, with the header fields
+// that tell which sheet it belongs to.
+void SegundaPagina(const FrmRelatorio& r) {
+    Printer().NovaPagina();
+    Printer().DefineFonte("Arial Black", 20, true);
+    Linha();
+    Linha({{ColunaTitulo, "ISO 5167-2:2003"}});
+    Linha();
+    Printer().DefineFonte("Courier New", 10, false);
+    Linha({{ColunaTexto, r.txtData}});
+    Linha({{ColunaTexto, r.lblOS}, {ColunaCampo, r.txtOS}});
+    Linha({{ColunaTexto, r.lblCliente}, {ColunaCampo, r.txtCliente}});
+    Linha();
+    for (const std::string& l : r.lstIso)
+        Linha({{ColunaTexto, l}});
+}
+
 } // namespace
+
+void Impressora::NovaPagina() {
+    throw Falha(ErroImpressora);
+}
 
 Impressora*& impressoraInstalada() {
     static Impressora* p = nullptr;
@@ -93,6 +114,7 @@ void mnuArquivoImprimir_Click(FrmRelatorio& r) {
         Linha({{ColunaTexto, r.lblMenu}});
         for (const std::string& l : r.lstRelatorio)
             Linha({{ColunaTexto, l}});
+        if (DialogoImpressao().SegundaPaginaIso && !r.lstIso.empty()) SegundaPagina(r);
 
         Printer().FimDocumento();
     } catch (const Falha& f) {

@@ -33,6 +33,9 @@ class Impressora {
     // Printer.Print with its pieces; no pieces is an empty line, one line
     // high in the current font.
     virtual void ImprimeLinha(const std::vector<PecaLinha>& pecas) = 0;
+    // NewPage: what follows begins at the top of a new sheet. A printer
+    // that has no pages of its own fails.
+    virtual void NovaPagina();
     // EndDoc: releases the job.
     virtual void FimDocumento() = 0;
 };
@@ -51,7 +54,8 @@ bool MostraImpressora(bool Configurar);
 // "Configurar impressão...": the set-up dialog, its answer not looked at.
 void mnuArquivoConfigurarImpressao_Click();
 
-// "Imprimir...": the report as a data sheet. Nothing crosses out of it: a
+// "Imprimir...": the report as a data sheet, with the ISO 5167-2 check on a
+// second page when the print dialog asked for it. Nothing crosses out of it: a
 // printer failure shows the error box.
 void mnuArquivoImprimir_Click(FrmRelatorio& r);
 

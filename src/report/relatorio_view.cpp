@@ -4,11 +4,13 @@
 #include "report/frm_relatorio.h"
 
 #include <QCloseEvent>
+#include <QColor>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabWidget>
 
 namespace tramelo {
 namespace {
@@ -87,10 +89,22 @@ RelatorioView::RelatorioView(FrmRelatorio& registro, QWidget* pai)
     lblMenu_->move(Px(30, this), (shpMenu_->height() - lblMenu_->sizeHint().height()) / 2);
     lblMenu_->adjustSize();
 
-    lstRelatorio_ = new QListWidget(picTodos);
+    // The report and the standard's check share the list's place, one tab
+    // each, the tabs below so the report stays under its column header.
+    abas_ = new QTabWidget(picTodos);
+    abas_->setObjectName(QStringLiteral("abasRelatorio"));
+    abas_->setTabPosition(QTabWidget::South);
+    abas_->setDocumentMode(true);
+    abas_->setGeometry(Px(-15, this), Px(1515, this), Px(8715, this), Px(3180, this));
+    lstRelatorio_ = new QListWidget;
     lstRelatorio_->setObjectName(QStringLiteral("lstRelatorio"));
     lstRelatorio_->setFont(fixa);
-    lstRelatorio_->setGeometry(Px(-15, this), Px(1515, this), Px(8715, this), Px(3180, this));
+    abas_->addTab(lstRelatorio_, QStringLiteral("Relatório"));
+    lstIso_ = new QListWidget;
+    lstIso_->setObjectName(QStringLiteral("lstIso"));
+    lstIso_->setFont(fixa);
+    lstIso_->setTextElideMode(Qt::ElideNone);
+    abas_->addTab(lstIso_, QStringLiteral("ISO 5167-2:2003"));
     lstRelatorio_->setUniformItemSizes(true);
     lstRelatorio_->setTextElideMode(Qt::ElideNone);
     lstRelatorio_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -131,6 +145,17 @@ void RelatorioView::Sincroniza() {
         lstRelatorio_->clear();
         for (const std::string& l : registro_.lstRelatorio)
             lstRelatorio_->addItem(Q(l));
+    }
+    igual = static_cast<int>(registro_.lstIso.size()) == lstIso_->count();
+    for (int i = 0; igual && i < lstIso_->count(); ++i)
+        igual = lstIso_->item(i)->text() == Q(registro_.lstIso[static_cast<size_t>(i)]);
+    if (!igual) {
+        lstIso_->clear();
+        for (const std::string& l : registro_.lstIso) {
+            auto* item = new QListWidgetItem(Q(l), lstIso_);
+            // A limit of use that the point crosses stands out.
+            if (l.ends_with("FORA")) item->setForeground(QColor(0xB0, 0x00, 0x00));
+        }
     }
 }
 

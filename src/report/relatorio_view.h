@@ -1,4 +1,5 @@
-// The report window: three header fields above the fixed-pitch line list.
+// The report window: three header fields above the fixed-pitch line list,
+// and beside the list, in a second tab, the ISO 5167-2:2003 check.
 // It shows a FrmRelatorio record and writes the typed header texts back.
 #pragma once
 
@@ -8,6 +9,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
+class QTabWidget;
 
 namespace tramelo {
 
@@ -36,6 +38,8 @@ class RelatorioView : public QWidget {
     QPushButton* cmdAgora_;
     QWidget* shpMenu_;
     QListWidget* lstRelatorio_;
+    QTabWidget* abas_;
+    QListWidget* lstIso_;
     int linhasMostradas_ = -1;
 };
 

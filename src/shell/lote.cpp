@@ -6,6 +6,7 @@
 #include "plataforma/ambiente.h"
 #include "report/exportacao.h"
 #include "sizing/calculo.h"
+#include "sizing/execucao.h"
 
 #include <cstdlib>
 
@@ -64,10 +65,12 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     FrmCalcTramelo* f = AbreCalculo(true, arquivo);
     if (!f || !f->ArquivoExiste) {
         r.status = 2;
+        r.iso = CalculaIso5167(EntradaIso{});
         if (f) DescarregaCalculo(*f);
         return r;
     }
-    ResultadoCalculo c = cmdCalcular_Click(*f);
+    Execucao x;
+    ResultadoCalculo c = cmdCalcular_Click(*f, &x);
     r.linhas = f->Relatorio->lstRelatorio;
     r.exportacao = LinhasExportacao(*f->Relatorio);
     r.concluido = c.fim == FimCalculo::Concluido;
@@ -76,6 +79,8 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
         r.mensagens.push_back({"Informação de Erro Código :" + std::to_string(c.erro.numero),
                                "Descrição do Erro: " + c.erro.descricao});
     }
+    r.iso = CalculaIso5167(
+        EntradaIso5167(x, f->Fluido, f->Placa, f->Tomada, c.fim == FimCalculo::Concluido));
     r.status = c.fim == FimCalculo::Concluido ? 0 : c.fim == FimCalculo::Interrompido ? 1 : 2;
     // Closed without a question: the tool never saves.
     f->DefineAlterado(false);

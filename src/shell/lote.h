@@ -4,6 +4,7 @@
 #pragma once
 
 #include "plataforma/falha.h"
+#include "sizing/iso5167.h"
 
 #include <optional>
 #include <string>
@@ -24,6 +25,7 @@ struct ResultadoLote {
     bool concluido = false;              // the run reached the report window
     std::optional<ErroExecucao> erro;
     int status = 0; // 0 completed, 1 ended on a message, 2 missing, unreadable or failed
+    ResultadoIso iso; // the ISO 5167-2 check of the run, or why there is none
 };
 
 // Opens `arquivo` (AbreCalculo), runs "Calcular", closes the window without

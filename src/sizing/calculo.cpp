@@ -6,6 +6,7 @@
 #include "report/buffer.h"
 #include "sizing/catalogo.h"
 #include "sizing/execucao.h"
+#include "sizing/iso5167.h"
 #include "sizing/iteracao.h"
 #include "sizing/leitura.h"
 #include "sizing/linhas.h"
@@ -141,6 +142,12 @@ void Rodape(FrmCalcTramelo& f) {
     AddRel(r, "");
 }
 
+// The standard's answer beside the report, from the values of the run.
+void SegundaOpiniao(FrmCalcTramelo& f, const Execucao& x, bool concluido) {
+    f.Relatorio->lstIso =
+        LinhasIso5167(CalculaIso5167(EntradaIso5167(x, f.Fluido, f.Placa, f.Tomada, concluido)));
+}
+
 void MostraRelatorio(FrmCalcTramelo& f) {
     FrmRelatorio& r = *f.Relatorio;
     r.txtData = f.TextoData;
@@ -155,6 +162,7 @@ bool Executa(FrmCalcTramelo& f, Execucao& x) {
     const Catalogo& c = catalogo();
     FrmRelatorio& r = *f.Relatorio;
     r.lstRelatorio.clear();
+    SegundaOpiniao(f, x, false);
     f.Campo = 0;
     f.Escala = 0;
 
@@ -183,6 +191,7 @@ bool Executa(FrmCalcTramelo& f, Execucao& x) {
     ResultadoProcessamento(f, x);
     PerguntaDesenho(f, x);
     Rodape(f);
+    SegundaOpiniao(f, x, true);
     MostraRelatorio(f);
     return true;
 }

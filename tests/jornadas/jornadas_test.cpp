@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <vector>
 
 namespace tramelo::teste {
 namespace {
@@ -43,6 +44,26 @@ class Jornada : public ::testing::Test {
         auto b = x.Espera("push button", nome, 5000);
         ASSERT_TRUE(b) << nome;
         x.Clica(b->cx(), b->cy());
+    }
+
+    // An entry of the menu bar: the menu by its accelerator, the entry by a
+    // click where the accessibility tree puts it.
+    void Menu(const std::string& acelerador, const std::vector<std::string>& caminho) {
+        x.Tecla(acelerador);
+        for (const std::string& nome : caminho) {
+            auto item = x.Espera("menu item", nome, 5000);
+            ASSERT_TRUE(item) << nome;
+            x.Clica(item->cx(), item->cy());
+        }
+    }
+
+    // Types a file's path into the file dialog of that title and accepts it.
+    void DialogoDeArquivo(const std::string& titulo, const std::string& caminho) {
+        ASSERT_TRUE(x.Espera("dialog", titulo, 5000)) << titulo;
+        x.Tecla("ctrl+a");
+        x.Digita(caminho);
+        x.Tecla("Return");
+        ASSERT_TRUE(x.EsperaSumir("dialog", titulo, 5000)) << titulo;
     }
 
     // The close button drawn in the title bar of a child window.
@@ -107,6 +128,173 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
     x.Clica(campo->cx(), campo->cy());
     x.Tecla("ctrl+a ctrl+c");
     EXPECT_EQ(x.AreaDeTransferencia(), "56");
+}
+
+// Closing all with unsaved changes asks each calculation: "Cancelar" keeps
+// them, "Sim" saves, "Não" drops the changes.
+TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    const std::string pergunta = "Deseja salvar as alterações efetuadas neste Cálculo?";
+    auto campo = x.Espera("text", "Vazão de projeto", 5000);
+    ASSERT_TRUE(campo);
+    x.Clica(campo->cx(), campo->cy());
+    x.Tecla("ctrl+a");
+    x.Digita("60");
+    Menu("alt+a", {"Fechar todos"});
+    ASSERT_TRUE(x.Espera("label", pergunta, 5000));
+    x.Tecla("Escape"); // Cancelar
+    ASSERT_TRUE(x.EsperaSumir("label", pergunta, 5000));
+    ASSERT_TRUE(x.Acha("frame", "agua.trl"));
+
+    // "Sim" saves the calculation where its name puts it, the program's Saves.
+    Menu("alt+a", {"Fechar todos"});
+    ASSERT_TRUE(x.Espera("label", pergunta, 5000));
+    x.Tecla("alt+s");
+    ASSERT_TRUE(x.EsperaSumir("frame", "agua.trl", 5000));
+    const std::string salvo = x.Caminho("bin/Saves/agua.trl");
+    ASSERT_TRUE(fs::exists(salvo));
+    std::ifstream f(salvo);
+    std::stringstream conteudo;
+    conteudo << f.rdbuf();
+    EXPECT_NE(conteudo.str().find("\"60\""), std::string::npos) << conteudo.str();
+
+    // A new calculation, typed in and closed with "Não": nothing written.
+    Botao("Novo");
+    ASSERT_TRUE(x.Espera("frame", "Cálculo 1", 5000));
+    auto tag = x.Espera("text", "Tag", 5000);
+    ASSERT_TRUE(tag);
+    x.Clica(tag->cx(), tag->cy());
+    x.Digita("FT-1");
+    Menu("alt+a", {"Fechar todos"});
+    ASSERT_TRUE(x.Espera("label", pergunta, 5000));
+    x.Tecla("alt+n");
+    ASSERT_TRUE(x.EsperaSumir("frame", "Cálculo 1", 5000));
+    EXPECT_FALSE(fs::exists(x.Caminho("bin/Saves/Cálculo 1")));
+    EXPECT_TRUE(x.Vivo());
+}
+
+// Saved under a new name, closed, and opened again from the recent files.
+TEST_F(Jornada, SalvarComoEReabrirPelosRecentes) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    const std::string novo = x.Caminho("arquivos/copia.trl");
+    Menu("alt+a", {"Salvar como..."});
+    DialogoDeArquivo("Salvar Como", novo);
+    ASSERT_TRUE(fs::exists(novo));
+    Menu("alt+a", {"Fechar"});
+    ASSERT_TRUE(x.EsperaSumir("frame", "agua.trl", 5000));
+    Menu("alt+a", {"Arquivos recentes"});
+    // The newest entry comes first; the one saved under its new name.
+    std::optional<No> entrada;
+    for (const No& n : x.Arvore())
+        if (n.visivel && n.papel == "menu item" && n.nome.rfind("1 ", 0) == 0) entrada = n;
+    ASSERT_TRUE(entrada);
+    x.Clica(entrada->cx(), entrada->cy());
+    EXPECT_TRUE(x.Espera("frame", "copia.trl", 5000));
+    // And by the open dialog, the sample again.
+    Menu("alt+a", {"Abrir"});
+    DialogoDeArquivo("Abrir Tramelo", Exemplo("ar.trl"));
+    EXPECT_TRUE(x.Espera("frame", "ar.trl", 5000));
+    EXPECT_TRUE(x.Vivo());
+}
+
+// The windows of the help menu and the options open and close as a person
+// closes them; the about box's address goes to the desktop's mail handler.
+TEST_F(Jornada, TabelasDicasOpcoesESobre) {
+    // xdg-open as the desktop's handler, writing down what it was given.
+    const std::string registro = x.Caminho("xdg-open.txt");
+    {
+        std::ofstream s(x.Caminho("bin/xdg-open"));
+        s << "#!/bin/sh\necho \"$@\" >> '" << registro << "'\n";
+    }
+    fs::permissions(x.Caminho("bin/xdg-open"), fs::perms::owner_all);
+    setenv("PATH", (x.Caminho("bin") + ":" + std::getenv("PATH")).c_str(), 1);
+    ASSERT_TRUE(x.Inicia());
+    for (const std::string tabela : {"Massa do Vapor Superaquecido", "Volume do Vapor Superaquecido"}) {
+        Menu("alt+u", {"Documentação", tabela});
+        auto janela = x.Espera("frame", tabela, 5000);
+        ASSERT_TRUE(janela) << tabela;
+        FechaPelaBarraDeTitulo(*janela);
+        EXPECT_TRUE(x.EsperaSumir("frame", tabela, 5000)) << tabela;
+    }
+    Menu("alt+u", {"Exibir dicas..."});
+    ASSERT_TRUE(x.Espera("label", "Você sabia...", 5000));
+    x.Tecla("Escape");
+    EXPECT_TRUE(x.EsperaSumir("label", "Você sabia...", 5000));
+    Menu("alt+x", {"Opções..."});
+    ASSERT_TRUE(x.Espera("dialog", "Opções", 5000));
+    x.Tecla("Escape");
+    EXPECT_TRUE(x.EsperaSumir("dialog", "Opções", 5000));
+    Menu("alt+u", {"Sobre o Tramelo..."});
+    auto link = x.Espera("label", "E-mail: suporte@quillon.com.br", 5000);
+    ASSERT_TRUE(link);
+    x.Clica(link->cx(), link->cy());
+    x.Pausa(1000);
+    std::ifstream r(registro);
+    std::string pedido;
+    std::getline(r, pedido);
+    EXPECT_EQ(pedido.rfind("mailto:suporte@quillon.com.br?", 0), 0u) << pedido;
+    x.Tecla("Escape");
+    EXPECT_TRUE(x.Vivo());
+}
+
+// The report printed to a PDF and exported to a text file: both written,
+// with the report's lines.
+TEST_F(Jornada, ImprimeEmPdfEExporta) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    Botao("Calcular");
+    ASSERT_TRUE(x.Espera("frame", "Relatório de Cálculo - agua.trl", 5000));
+    const std::string txt = x.Caminho("arquivos/relatorio.txt");
+    Botao("Exportar");
+    DialogoDeArquivo("Exportar relatório", txt);
+    ASSERT_TRUE(fs::exists(txt));
+    std::ifstream e(txt);
+    std::stringstream exportado;
+    exportado << e.rdbuf();
+    EXPECT_NE(exportado.str().find("Dados para cálculo - Placa de orifício"), std::string::npos);
+
+    const std::string pdf = x.Caminho("arquivos/folha.pdf");
+    Botao("Imprimir");
+    auto saida = x.Espera("text", "Output file:", 8000);
+    ASSERT_TRUE(saida);
+    x.Clica(saida->cx(), saida->cy());
+    x.Tecla("ctrl+a");
+    x.Digita(pdf);
+    x.Tecla("Return");
+    for (int i = 0; i < 50 && !fs::exists(pdf); ++i) x.Pausa(100);
+    ASSERT_TRUE(fs::exists(pdf));
+    x.Pausa(500);
+    const std::string texto = x.Comando("pdftotext -layout '" + pdf + "' - 2>/dev/null");
+    EXPECT_NE(texto.find("Flange Taps"), std::string::npos) << texto;
+    EXPECT_TRUE(x.Vivo());
+}
+
+// The main window moved and resized, then the exit: the next start is at the
+// same place and size. A second start hands its file to the running program.
+TEST_F(Jornada, SaiComJanelaMovidaEVoltaNoMesmoLugar) {
+    auto geometria = [this] {
+        const std::string id = x.Comando("xdotool search --onlyvisible --name '^Tramelo$' | head -1");
+        return x.Comando("xdotool getwindowgeometry " + id);
+    };
+    ASSERT_TRUE(x.Inicia());
+    x.Tecla("Escape"); // the tip of the day
+    const std::string id = x.Comando("xdotool search --onlyvisible --name '^Tramelo$' | head -1");
+    x.Comando("xdotool windowmove " + id + " 150 120 windowsize " + id + " 800 640");
+    x.Pausa(500);
+    const std::string antes = geometria();
+    Menu("alt+a", {"Sair"});
+    ASSERT_EQ(x.Espera(10000), 0) << x.Saida();
+    ASSERT_TRUE(x.Inicia());
+    x.Tecla("Escape");
+    x.Pausa(500);
+    EXPECT_EQ(geometria(), antes);
+
+    // A second start with a file: it ends at once, and the file is open in
+    // the first.
+    const std::string segunda = x.Comando("'" + x.Caminho("bin/Tramelo") + "' '" +
+                                          Exemplo("ar.trl") + "' > /dev/null 2>&1; echo $?");
+    EXPECT_EQ(segunda, "0\n");
+    EXPECT_TRUE(x.Espera("frame", "ar.trl", 8000));
+    EXPECT_TRUE(x.Vivo());
 }
 
 } // namespace

@@ -1,0 +1,58 @@
+// A second opinion on an orifice plate: the bore by ISO 5167-2:2003
+// (Reader-Harris/Gallagher discharge coefficient, the 2003 expansibility, the
+// flow equation of ISO 5167-1), with the standard's permanent pressure loss,
+// uncertainties and limits of use, beside the bore this program found.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tramelo {
+
+struct Execucao;
+
+// The point as the standard wants it, in SI units except the diameters.
+struct EntradaIso {
+    bool concluido = false; // the run of "Calcular" reached its report
+    int Fluido = 0;         // 0 liquid, 1 gas, 2 steam
+    int Placa = 1;          // 1 orifice plate, 2 restriction orifice
+    int Tomada = 1;         // 1 flange, 2 D and D/2, 3 vena contracta, 4 corner, 5 pipe taps
+    double qm = 0;          // mass flow, kg/s
+    double rho1 = 0;        // density upstream, kg/m³
+    double mu = 0;          // dynamic viscosity, Pa·s
+    double D_mm = 0;        // pipe's inside diameter
+    double dp = 0;          // differential pressure, Pa
+    double p1 = 0;          // absolute pressure upstream, Pa (gas and steam)
+    double kappa = 0;       // isentropic exponent (gas and steam)
+    double d_legado_mm = 0; // this program's bore, Beta · D
+};
+
+// One limit of use: its value, its bounds (none where open) and the verdict.
+struct LimiteIso {
+    std::string nome;
+    double valor = 0;
+    std::optional<double> minimo, maximo;
+    bool ok = false;
+};
+
+struct ResultadoIso {
+    bool aplicavel = false;
+    std::string motivo; // why not, in Portuguese; empty where it applies
+    double beta = 0, d_mm = 0, C = 0, epsilo = 0, ReD = 0;
+    double perda_permanente_Pa = 0;
+    double incerteza_C_pct = 0, incerteza_epsilo_pct = 0;
+    double diferenca_d_pct = 0; // 100 · (d_legado / d − 1)
+    std::vector<LimiteIso> limites;
+};
+
+// The point from the values of a run, after its unit conversions.
+EntradaIso EntradaIso5167(const Execucao& x, int Fluido, int Placa, int Tomada, bool concluido);
+
+// The whole check; never throws.
+ResultadoIso CalculaIso5167(const EntradaIso& e);
+
+// The result as a short Portuguese section of text lines, decimal comma.
+std::vector<std::string> LinhasIso5167(const ResultadoIso& r);
+
+} // namespace tramelo
