@@ -7,13 +7,13 @@ set(CPACK_PACKAGE_NAME tramelo)
 set(CPACK_PACKAGE_VENDOR Quillon)
 set(CPACK_PACKAGE_CONTACT "Quillon <suporte@quillon.com.br>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "dimensionamento de placas de orifício")
-set(CPACK_PACKAGE_DESCRIPTION
-    "O Tramelo calcula o diâmetro do furo de uma placa de orifício ou de um "
-    "orifício de restrição para líquidos, gases e vapor, a partir dos dados de "
-    "processo de um ponto de medição, e dá um relatório de cálculo que pode ser "
-    "impresso como folha de dados ou exportado. Cada cálculo é guardado num "
-    "arquivo .trl; a ferramenta tramelo-calc calcula esses arquivos em lote.")
-string(JOIN "" CPACK_PACKAGE_DESCRIPTION ${CPACK_PACKAGE_DESCRIPTION})
+# The long description, one line of the control file per line here.
+string(JOIN "\n" CPACK_PACKAGE_DESCRIPTION
+  "O Tramelo calcula o diâmetro do furo de uma placa de orifício ou de um"
+  "orifício de restrição para líquidos, gases e vapor, a partir dos dados de"
+  "processo de um ponto de medição, e dá um relatório de cálculo que pode ser"
+  "impresso como folha de dados ou exportado. Cada cálculo é guardado num"
+  "arquivo .trl; a ferramenta tramelo-calc calcula esses arquivos em lote.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
