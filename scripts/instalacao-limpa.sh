@@ -89,6 +89,16 @@ espera_janela() { # name pattern, seconds
   for _ in $(seq $(($2 * 5))); do xdotool search --onlyvisible --name "$1" > /dev/null 2>&1 && return 0; sleep 0.2; done
   return 1
 }
+# Ends the program as a user does, with "Sair" on the toolbar, so that it
+# stores its settings; a program that doesn't end is stopped.
+fecha() { # pid
+  local w
+  w=$(xdotool search --onlyvisible --pid "$1" --name '^Tramelo' 2> /dev/null | head -1)
+  [ -n "$w" ] && xdotool mousemove --window "$w" 180 48 click 1
+  for _ in $(seq 50); do kill -0 "$1" 2> /dev/null || { echo "fim: Sair encerrou o programa"; return 0; }; sleep 0.2; done
+  echo "fim: o programa não terminou pelo botão Sair"
+  kill "$1"
+}
 desktop=/usr/share/applications/br.com.quillon.Tramelo.desktop
 comando=$(sed -n 's/^Exec=//p' "$desktop" | sed 's/ *%[fFuU]//')
 echo "menu: Exec=$(sed -n 's/^Exec=//p' "$desktop")"
@@ -98,18 +108,28 @@ if espera_janela '^Tramelo' 20; then echo "menu: janela $(xdotool search --onlyv
 espera_janela '^Dica do dia$' 10 && echo "menu: janela Dica do dia"
 sleep 2
 cp /tmp/tela/Xvfb_screen0 /tmp/menu.xwd
-kill "$programa"; wait "$programa" 2> /dev/null
+fecha "$programa"
+wait "$programa" 2> /dev/null
 echo "mime: $(xdg-mime query filetype "$HOME/água.trl")"
 echo "padrão: $(xdg-mime query default application/x-tramelo)"
 xdg-open "$HOME/água.trl" > /tmp/xdg-open.log 2>&1 &
-if espera_janela 'água' 20; then echo "xdg-open: janela $(xdotool search --onlyvisible --name 'água' getwindowname | head -1)"; else echo "xdg-open: sem janela"; fi
-sleep 2
-cp /tmp/tela/Xvfb_screen0 /tmp/xdg-open.xwd
-aberto=$(xdotool search --onlyvisible --name 'água' getwindowpid 2> /dev/null | head -1)
+# The calculation is a window inside the frame: the frame's process tells
+# which file it was started on.
+aberto=
+for _ in $(seq 100); do
+  for p in $(xdotool search --onlyvisible --name '^Tramelo' getwindowpid %@ 2> /dev/null); do
+    tr '\0' ' ' < "/proc/$p/cmdline" | grep -q 'água.trl' && aberto=$p
+  done
+  [ -n "$aberto" ] && break
+  sleep 0.2
+done
 if [ -n "$aberto" ]; then
-  echo "processo: $(tr '\0' ' ' < "/proc/$aberto/cmdline")"
-  kill "$aberto"
-  sleep 1
+  echo "xdg-open: Tramelo aberto: $(tr '\0' ' ' < "/proc/$aberto/cmdline")"
+  sleep 2
+  cp /tmp/tela/Xvfb_screen0 /tmp/xdg-open.xwd
+  fecha "$aberto"
+else
+  echo "xdg-open: o Tramelo não abriu"
 fi
 tramelo-calc "$HOME/água.trl" | grep -m1 'Diâmetro do orifício' | sed 's/^ */calc: /'
 kill "$xvfb"
@@ -121,7 +141,8 @@ sed 's/^/   /' "$trabalho/sessao.log"
 echo "== verificações"
 confere "entrada do menu abre a janela" "grep -q '^menu: janela Tramelo' '$trabalho/sessao.log'"
 confere "xdg-open reconhece .trl" "grep -q '^mime: application/x-tramelo' '$trabalho/sessao.log'"
-confere "o .trl abre no Tramelo pelo xdg-open" "grep -q '^xdg-open: janela' '$trabalho/sessao.log'"
+confere "o .trl abre no Tramelo pelo xdg-open" "grep -q '^xdg-open: Tramelo aberto: Tramelo .*/água.trl' '$trabalho/sessao.log'"
+confere "Sair encerra o programa" "[ \"\$(grep -c '^fim: Sair encerrou' '$trabalho/sessao.log')\" = 2 ]"
 confere "tramelo-calc calcula o arquivo" "grep -q '^calc: Diâmetro do orifício' '$trabalho/sessao.log'"
 confere "a dica do dia aparece na primeira partida" "grep -q '^menu: janela Dica do dia' '$trabalho/sessao.log'"
 confere "configurações do usuário em ~/.config/Tramelo" "[ -f '$raiz/home/engenheiro/.config/Tramelo/registro-usuario.json' ]"
