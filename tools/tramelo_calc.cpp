@@ -1,5 +1,6 @@
 // tramelo-calc: opens calculation files as the desktop program does, runs
 // "Calcular" on each and prints the reports.
+#include "ajuda_portugues.h"
 #include "shell/lote.h"
 #include "shell/mod_base.h"
 #include "sizing/catalogo.h"
@@ -22,8 +23,7 @@ std::string UmaLinha(std::string s) {
     return s;
 }
 
-// The program's data folder: beside the executable when it can be written
-// there, otherwise the user's data folder.
+// The program's data folder, chosen as the desktop program chooses it.
 std::string PastaDoPrograma(const char* argv0) {
     namespace fs = std::filesystem;
     std::error_code ec;
@@ -65,6 +65,7 @@ nlohmann::json JsonIso(const tramelo::ResultadoIso& r) {
 int main(int argc, char** argv) {
     CLI::App app{"Calcula os arquivos de cálculo (.trl) do Tramelo e imprime seus relatórios.",
                  "tramelo-calc"};
+    tramelo::PreparaEmPortugues(app);
     bool json = false, sim = false, iso = false;
     std::vector<std::string> arquivos;
     app.add_flag("--json", json, "Saída em JSON: um objeto por arquivo");
@@ -78,8 +79,9 @@ int main(int argc, char** argv) {
     } catch (const CLI::CallForHelp& e) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
-        app.exit(e);
-        std::cerr << "uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...\n";
+        std::cerr << "tramelo-calc: " << tramelo::MensagemEmPortugues(app, e) << "\n"
+                  << "uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...\n"
+                  << "Use --help para mais informações.\n";
         return 64;
     }
 

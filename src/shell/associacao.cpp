@@ -4,6 +4,7 @@
 #include "plataforma/caixas.h"
 #include "plataforma/texto.h"
 #include "shell/entrada.h"
+#include "shell/instalacao.h"
 #include "shell/registro.h"
 
 #include <cerrno>
@@ -81,7 +82,10 @@ void Executa(const std::string& programa, const std::vector<std::string>& argume
 
 // The desktop's side of the association: a desktop entry that opens the
 // file and the MIME type of "*.trl", then their caches, when the tools exist.
+// An installed copy brought its own entry and type with it; a second entry
+// of the user's would only show the program twice in the menu.
 void AssociaNaArea() {
+    if (ProgramaInstalado(PastaExecutavel())) return;
     const fs::path dados = PastaDadosUsuario();
     GravaTexto(dados / "applications" / "Tramelo.desktop", EntradaDesktop());
     GravaTexto(dados / "mime" / "packages" / "tramelo.xml", TipoMimeXml());

@@ -21,8 +21,9 @@ std::string ComandoAssociacao();
 // the command compares the expected command with itself.
 void VerificaAssociacao();
 
-// The four store entries, in order, then the desktop entry and the MIME
-// type, refreshing the desktop's databases when their tools are installed.
+// The four store entries, in order, then (for a copy that isn't installed)
+// the desktop entry and the MIME type, refreshing the desktop's databases
+// when their tools are installed.
 // The result is that of the last store write.
 bool AssociaArquivos();
 

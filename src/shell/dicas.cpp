@@ -4,6 +4,7 @@
 #include "plataforma/canal.h"
 #include "shell/barras.h"
 #include "shell/entrada.h"
+#include "shell/instalacao.h"
 #include "shell/mod_base.h"
 #include "shell/registro.h"
 
@@ -33,7 +34,7 @@ void Form_Load(FrmDica& f, const LugarDica& lugar) {
         f.Rnd = [gerador] { return std::uniform_real_distribution<double>(0.0, 1.0)(*gerador); };
     }
 
-    if (!LoadTips(f, PastaExecutavel() + "/" + ArquivoDicas))
+    if (!LoadTips(f, ArquivoDoPrograma(PastaExecutavel(), ArquivoDicas)))
         f.lblTipText = std::string("Este arquivo 'DicaDoDia.txt' não foi encontrado? ") + "\n\n" +
                        "Verifique se o arquivo não foi movido ou excluído, e reinsta-le o " +
                        TituloPrograma;

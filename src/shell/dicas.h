@@ -1,6 +1,6 @@
-// The window "Dica do dia" as a record: one line of "DicaDoDia.txt", beside
-// the executable, shown at a time and picked at random. Not modal; one
-// window at most.
+// The window "Dica do dia" as a record: one line of "DicaDoDia.txt" (in the
+// installed data folder, or beside the executable in a build), shown at a
+// time and picked at random. Not modal; one window at most.
 #pragma once
 
 #include "shell/abertura.h"

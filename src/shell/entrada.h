@@ -48,8 +48,8 @@ LigacaoInstancias*& ligacaoInstancias();
 // The command line as one text: the arguments joined by one blank.
 std::string& LinhaComando();
 std::string JuntaArgumentos(int argc, const char* const* argv);
-// The folder that holds the executable, without a trailing separator: where
-// the tips file ships and what the file association starts.
+// The folder that holds the executable, without a trailing separator: what
+// the file association starts, and where a build keeps the tips file.
 std::string& PastaExecutavel();
 std::string PastaDoExecutavel(const char* argv0);
 // Both of the above from main()'s arguments.

@@ -3,6 +3,7 @@
 #include "document/controles.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/texto.h"
+#include "shell/instalacao.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -17,7 +18,9 @@ ModBase& modBase() {
 }
 
 std::string PastaDadosPrograma(const std::string& pastaExecutavel) {
-    if (!pastaExecutavel.empty() && access(pastaExecutavel.c_str(), W_OK) == 0) return pastaExecutavel;
+    if (!pastaExecutavel.empty() && !ProgramaInstalado(pastaExecutavel) &&
+        access(pastaExecutavel.c_str(), W_OK) == 0)
+        return pastaExecutavel;
     std::string base;
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x) base = x;
     else if (const char* h = std::getenv("HOME"); h && *h) base = std::string(h) + "/.local/share";

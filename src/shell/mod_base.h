@@ -19,9 +19,12 @@ struct ModBase {
 
 ModBase& modBase();
 
-// The program's data folder for an executable in `pastaExecutavel`: that
-// folder when it can be written, otherwise $XDG_DATA_HOME/Tramelo (by default
-// ~/.local/share/Tramelo), so that an installed copy works for a plain user.
+// The program's data folder (Saves, Relatorios, the machine's settings) for
+// an executable in `pastaExecutavel`. An installed copy keeps each user's
+// data in $XDG_DATA_HOME/Tramelo (by default ~/.local/share/Tramelo), never
+// under its prefix, even when root runs it or the prefix is the user's own.
+// Run from a build folder it stays beside the executable, when that folder
+// can be written.
 std::string PastaDadosPrograma(const std::string& pastaExecutavel);
 
 // Sets the program folder and the two folders beside it. Touches no folder.

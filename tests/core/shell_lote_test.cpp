@@ -70,6 +70,38 @@ TEST_F(ShellLote, Json) {
     EXPECT_EQ(j[1]["mensagens"][0]["titulo"], pasta / "falta.trl");
 }
 
+TEST_F(ShellLote, AjudaEErrosDeOpcaoEmPortugues) {
+    const std::string uso = "uso: tramelo-calc [--json] [--sim] ARQUIVO.trl...\n"
+                            "Use --help para mais informações.\n";
+    struct Caso {
+        std::string argumentos;
+        int status;
+        std::string saida, erros;
+    } casos[] = {
+        {"--help", 0,
+         "Calcula os arquivos de cálculo (.trl) do Tramelo e imprime seus relatórios.\n"
+         "Uso: tramelo-calc [OPÇÕES] ARQUIVO...\n\n"
+         "Argumentos:\n"
+         "  ARQUIVO TEXTO ... OBRIGATÓRIO\n"
+         "                              Arquivos de cálculo (.trl)\n\n"
+         "Opções:\n"
+         "  -h,--help                   Mostra esta ajuda e sai\n"
+         "  --json                      Saída em JSON: um objeto por arquivo\n"
+         "  --sim                       Responde \"Sim\" a \"Deseja alterar o dados para cálculo?\" "
+         "(o padrão é \"Não\")\n\n",
+         ""},
+        {"", 64, "", "tramelo-calc: falta o argumento obrigatório ARQUIVO\n" + uso},
+        {"--nada -x a.trl", 64, "", "tramelo-calc: argumentos não esperados: --nada -x\n" + uso},
+        {"--json=talvez a.trl", 64, "", "tramelo-calc: valor não aceito em --json\n" + uso},
+    };
+    for (const Caso& c : casos) {
+        Saida s = Executa(c.argumentos);
+        EXPECT_EQ(s.status, c.status) << c.argumentos;
+        EXPECT_EQ(s.saida, c.saida) << c.argumentos;
+        EXPECT_EQ(s.erros, c.erros) << c.argumentos;
+    }
+}
+
 TEST_F(ShellLote, StatusDeSaida) {
     const std::string cabeca = "\"\"\r\n\"\"\r\n\"\"\r\n0\r\n0,  \"Liqüido\"\r\n0\r\n\"t\"\r\n";
     const std::string linhas = "2,\"50\",0\r\n4,\"102,26\",0\r\n5,\"25000\",0\r\n8,\"20\",0\r\n"
