@@ -3,7 +3,8 @@
 set -euo pipefail
 pacotes=(build-essential cmake g++ pkg-config libgtest-dev googletest libgmock-dev
          libbenchmark-dev nlohmann-json3-dev libcli11-dev libfmt-dev
-         qt6-base-dev libgl-dev xvfb xauth fonts-liberation poppler-utils)
+         qt6-base-dev libgl-dev xvfb xauth fonts-liberation poppler-utils
+         clang-14 libclang-rt-14-dev)
 faltam=()
 for p in "${pacotes[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || faltam+=("$p")
