@@ -258,8 +258,9 @@ TEST_F(DocumentArquivo, ArquivosDanificadosAbrem) {
         EXPECT_EQ(f->txtDados(29)->Text(), c.linha29);
         EXPECT_EQ(f->cboDados(29)->ListIndex(), 0);
         // Saved as it stands, row 29 included.
+        dialogos.nomes = {pasta / "d.trl"};
         bool ok = false;
-        TrameloSave(*f, false, ok);
+        TrameloSave(*f, true, ok);
         EXPECT_TRUE(ok);
         EXPECT_NE(LeBytes(pasta / "d.trl").find("29,\"" + c.linha29 + "\",0\r\n"), std::string::npos);
         caixas.mostradas.clear();
