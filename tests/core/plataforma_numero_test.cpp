@@ -53,7 +53,8 @@ TEST(PlataformaNumero, TextoParaNumero) {
     EXPECT_EQ(TextoParaNumero(std::string(3000, '0') + "12,5" + std::string(3000, '0')), 12.5);
     EXPECT_EQ(TextoParaNumero("1" + std::string(2500, '0') + "E-2500"), 1);
     EXPECT_EQ(TextoParaNumero("1E-99999999999"), 0);
-    for (const std::string t : {"1E400", "-1E400", "1E99999999999", std::string(2500, '9')}) {
+    for (const std::string& t : {std::string("1E400"), std::string("-1E400"),
+                                 std::string("1E99999999999"), std::string(2500, '9')}) {
         try {
             TextoParaNumero(t);
             ADD_FAILURE() << t;
