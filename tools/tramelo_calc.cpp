@@ -98,6 +98,7 @@ int main(int argc, char** argv) {
         if (json) {
             nlohmann::json objeto;
             objeto["arquivo"] = r.arquivo;
+            objeto["arquivo_de_calculo"] = r.arquivoDeCalculo;
             objeto["linhas"] = r.linhas;
             nlohmann::json mensagens = nlohmann::json::array();
             for (const auto& m : r.mensagens)

@@ -3,7 +3,9 @@
 #include "plataforma/caixas.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 
@@ -26,12 +28,41 @@ QString LigacaoQt::NomeSocket(const std::string& servicoTopico) {
     return nome;
 }
 
+QString LigacaoQt::ArquivoTrava(const QString& nomeSocket) {
+    // Beside the socket: a relative name lies in the temporary folder.
+    const QString caminho = QDir::isAbsolutePath(nomeSocket)
+                                ? nomeSocket
+                                : QDir(QDir::tempPath()).filePath(nomeSocket);
+    return caminho + QStringLiteral(".trava");
+}
+
 bool LigacaoQt::OutraInstancia() {
+    // Two starts at the same instant: the look for a running instance and the
+    // claim of the name are one step under a lock file, so exactly one start
+    // becomes the first instance and the other finds it and hands over.
+    const QString nome = NomeSocket(std::string(TituloPrograma) + "|" + TopicoMenu);
+    QLockFile trava(ArquivoTrava(nome));
+    trava.tryLock(5000); // past that, go on unlocked rather than not start
     // A socket file left by a crashed first instance answers nobody: that
     // isn't another instance.
     QLocalSocket s;
-    s.connectToServer(NomeSocket(std::string(TituloPrograma) + "|" + TopicoMenu));
-    return s.waitForConnected(300);
+    s.connectToServer(nome);
+    if (s.waitForConnected(300)) return true;
+    // The name is ours from now on; starts that come before Atende wait in
+    // the server's queue.
+    Escuta(nome);
+    return false;
+}
+
+void LigacaoQt::Escuta(const QString& nome) {
+    delete servidor_;
+    QLocalServer::removeServer(nome);
+    servidor_ = new QLocalServer(this);
+    servidor_->setSocketOptions(QLocalServer::UserAccessOption);
+    if (!servidor_->listen(nome)) {
+        delete servidor_;
+        servidor_ = nullptr;
+    }
 }
 
 bool LigacaoQt::Conecta(const std::string& servicoTopico) {
@@ -52,14 +83,12 @@ bool LigacaoQt::Envia(const std::string& comando, int tempoLimite) {
 void LigacaoQt::Atende(const std::string& servicoTopico,
                        std::function<void(const std::string&)> recebe) {
     const QString nome = NomeSocket(servicoTopico);
-    QLocalServer::removeServer(nome);
-    servidor_ = new QLocalServer(this);
-    servidor_->setSocketOptions(QLocalServer::UserAccessOption);
-    if (!servidor_->listen(nome)) return;
-    connect(servidor_, &QLocalServer::newConnection, this, [this, recebe] {
+    if (!servidor_ || servidor_->serverName() != nome) Escuta(nome);
+    if (!servidor_) return;
+    auto aceita = [this, recebe] {
         while (QLocalSocket* s = servidor_->nextPendingConnection()) {
             connect(s, &QLocalSocket::disconnected, s, &QObject::deleteLater);
-            connect(s, &QLocalSocket::readyRead, this, [s, recebe] {
+            auto le = [s, recebe] {
                 while (s->canReadLine()) {
                     QByteArray linha = s->readLine();
                     linha.chop(1);
@@ -71,9 +100,14 @@ void LigacaoQt::Atende(const std::string& servicoTopico,
                         QCoreApplication::instance(), [recebe, comando] { recebe(comando); },
                         Qt::QueuedConnection);
                 }
-            });
+            };
+            connect(s, &QLocalSocket::readyRead, this, le);
+            // A start that came while this one was coming up may have sent already.
+            le();
         }
-    });
+    };
+    connect(servidor_, &QLocalServer::newConnection, this, aceita);
+    aceita();
 }
 
 } // namespace tramelo

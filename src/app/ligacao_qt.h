@@ -30,8 +30,14 @@ class LigacaoQt : public QObject, public LigacaoInstancias {
     static QString NomeSocket(const std::string& servicoTopico);
 
   private:
+    // The lock file that makes the look for an instance and the claim of the
+    // name one step.
+    static QString ArquivoTrava(const QString& nomeSocket);
+    // Takes the name, replacing a socket file nobody answers on.
+    void Escuta(const QString& nome);
+
     std::unique_ptr<QLocalSocket> cliente_;
-    QLocalServer* servidor_ = nullptr;
+    QLocalServer* servidor_ = nullptr; // a child of this object
 };
 
 } // namespace tramelo

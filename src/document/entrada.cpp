@@ -2,6 +2,7 @@
 
 #include "document/campos.h"
 #include "document/frm_calc_tramelo.h"
+#include "plataforma/falha.h"
 #include "plataforma/numero.h"
 #include "shell/barras.h"
 #include "shell/mod_base.h"
@@ -55,9 +56,13 @@ void txtDados_Change(FrmCalcTramelo& f, int Index) {
     CaixaTexto* fator = f.txtDados(29);
     if (fator) fator->DefineTexto("");
     CaixaTexto* temperatura = f.txtDados(9);
-    std::optional<double> T = temperatura ? LeNumero(temperatura->Text()) : std::nullopt;
-    if (!T) return;
-    if (fator) fator->DefineTexto(NumeroParaTexto(FatorAcoInox(*T)));
+    if (!temperatura || !fator) return;
+    // A text that isn't a number (13) or is beyond the range of a double (6)
+    // fails to convert; the failure is swallowed and row 29 stays empty.
+    try {
+        fator->DefineTexto(NumeroParaTexto(FatorAcoInox(TextoParaNumero(temperatura->Text()))));
+    } catch (const Falha&) {
+    }
 }
 
 void txtTag_Change(FrmCalcTramelo& f) {

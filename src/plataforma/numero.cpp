@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 namespace tramelo {
 namespace {
@@ -47,6 +48,16 @@ bool Digitos(double x, int digitos, char* mantissa, int& n, int& expoente) {
 // Writes x in the default text form; `digitos` is the number of significant
 // digits to keep (15 for a double, 7 for a single).
 void Formata(std::string& saida, double x, int digitos) {
+    // The program's arithmetic fails before it makes these; a value that
+    // arrives anyway gets the platform runtime's own text for it.
+    if (std::isnan(x)) {
+        saida += "-1,#IND";
+        return;
+    }
+    if (std::isinf(x)) {
+        saida += x < 0 ? "-1,#INF" : "1,#INF";
+        return;
+    }
     if (x == 0) {
         saida += '0';
         return;
@@ -103,24 +114,24 @@ std::optional<double> LeNumero(std::string_view t) {
     size_t i = 0, n = t.size();
     while (i < n && Branco(t[i])) ++i;
     while (n > i && Branco(t[n - 1])) --n;
-    // Rebuilt in the C form that from_chars reads: digits, ".", "e".
-    char buf[2100];
-    size_t k = 0;
+    // Rebuilt in the C form that from_chars reads: digits, ".", "e". The text
+    // has no length limit, so neither has the number: it is read whole.
+    std::string buf;
+    buf.reserve(n - i + 1);
     bool negativo = false;
     if (i < n && (t[i] == '+' || t[i] == '-')) negativo = t[i++] == '-';
     bool temDigito = false, temDecimal = false;
     for (; i < n; ++i) {
         char c = t[i];
         if (Digito(c)) {
-            if (k >= 2000) return std::nullopt;
-            buf[k++] = c;
+            buf += c;
             temDigito = true;
         } else if (c == '.') {
             if (temDecimal) return std::nullopt; // no thousands after the decimals
         } else if (c == ',') {
             if (temDecimal) return std::nullopt;
             temDecimal = true;
-            buf[k++] = '.';
+            buf += '.';
         } else {
             break;
         }
@@ -128,19 +139,19 @@ std::optional<double> LeNumero(std::string_view t) {
     if (!temDigito) return std::nullopt;
     if (i < n) {
         if (t[i] != 'e' && t[i] != 'E') return std::nullopt;
-        buf[k++] = 'e';
+        buf += 'e';
         ++i;
-        if (i < n && (t[i] == '+' || t[i] == '-')) buf[k++] = t[i++];
+        if (i < n && (t[i] == '+' || t[i] == '-')) buf += t[i++];
         bool temExpoente = false;
         for (; i < n && Digito(t[i]); ++i) {
-            if (k >= sizeof buf - 1) return std::nullopt;
-            buf[k++] = t[i];
+            buf += t[i];
             temExpoente = true;
         }
         if (!temExpoente || i < n) return std::nullopt;
     }
+    const size_t k = buf.size();
     double v = 0;
-    auto r = std::from_chars(buf, buf + k, v);
+    auto r = std::from_chars(buf.data(), buf.data() + k, v);
     if (r.ec == std::errc::result_out_of_range) {
         // Below the smallest double the platform gives 0; above the largest,
         // overflow. The decimal exponent of the first significant digit tells which.
@@ -150,13 +161,21 @@ std::optional<double> LeNumero(std::string_view t) {
             if (primeiro < 0 && buf[j] != '0') primeiro = n;
             ++n;
         }
-        if (const char* e = static_cast<const char*>(std::memchr(buf, 'e', k)))
-            std::from_chars(e[1] == '+' ? e + 2 : e + 1, buf + k, expoente);
+        if (const size_t e = buf.find('e'); e != std::string::npos) {
+            const char* p = buf.data() + e + (buf[e + 1] == '+' ? 2 : 1);
+            // An exponent beyond any int is beyond the range either way.
+            if (std::from_chars(p, buf.data() + k, expoente).ec != std::errc())
+                expoente = buf[e + 1] == '-' ? std::numeric_limits<int>::min() / 2
+                                             : std::numeric_limits<int>::max() / 2;
+        }
         if (ponto < 0) ponto = n;
-        if (primeiro < 0 || ponto - primeiro - 1 + expoente < 0) return negativo ? -0.0 : 0.0;
-        return HUGE_VAL;
+        // In 64 bits: hundreds of thousands of digits with an exponent near
+        // the limit of an int still compare the right way.
+        if (primeiro < 0 || static_cast<long long>(ponto) - primeiro - 1 + expoente < 0)
+            return negativo ? -0.0 : 0.0;
+        return negativo ? -HUGE_VAL : HUGE_VAL;
     }
-    if (r.ec != std::errc() || r.ptr != buf + k) return std::nullopt;
+    if (r.ec != std::errc() || r.ptr != buf.data() + k) return std::nullopt;
     return negativo ? -v : v;
 }
 
@@ -186,7 +205,8 @@ double Val(std::string_view t) {
     for (char c : t)
         if (!Branco(c) && c != '\n' && c != '\r') limpo += c;
     if (limpo.size() >= 2 && limpo[0] == '&' && (limpo[1] == 'H' || limpo[1] == 'h')) {
-        long long v = 0;
+        // At most 16 hex digits, which fill 64 bits without wrapping.
+        unsigned long long v = 0;
         size_t i = 2;
         for (; i < limpo.size() && i < 18; ++i) {
             char c = limpo[i];

@@ -9,6 +9,8 @@
 #include "sizing/execucao.h"
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 namespace tramelo {
 namespace {
@@ -56,12 +58,67 @@ class CaixasLote : public Caixas {
     Caixas* anterior_;
 };
 
+bool Digitos(std::string_view s) {
+    return !s.empty() && s.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// Line 5: the fluid's number, then, as far as the line goes, a comma, blanks
+// and the quote of its name.
+bool LinhaDoFluido(std::string_view s) {
+    const size_t virgula = s.find(',');
+    if (!Digitos(s.substr(0, virgula))) return false;
+    if (virgula == std::string_view::npos) return true;
+    const size_t aspas = s.find_first_not_of(' ', virgula + 1);
+    return aspas == std::string_view::npos || s[aspas] == '"';
+}
+
+// Enough of a file to hold any header a user typed.
+constexpr std::streamsize BytesDoCabecalho = 64 * 1024;
+
 } // namespace
+
+bool PareceArquivoDeCalculo(std::string_view bytes) {
+    if (bytes.empty() || bytes[0] != '"') return false;
+    size_t inicio = 0;
+    for (int linha = 1; linha <= 7 && inicio < bytes.size(); ++linha) {
+        size_t fim = bytes.find_first_of("\r\n", inicio);
+        if (fim == std::string_view::npos) fim = bytes.size();
+        std::string_view s = bytes.substr(inicio, fim - inicio);
+        const bool ok = linha == 4 || linha == 6 ? Digitos(s)
+                        : linha == 5             ? LinhaDoFluido(s)
+                                                 : !s.empty() && s[0] == '"';
+        if (!ok) return false;
+        inicio = fim;
+        if (inicio < bytes.size() && bytes[inicio] == '\r') ++inicio;
+        if (inicio < bytes.size() && bytes[inicio] == '\n') ++inicio;
+    }
+    return true;
+}
 
 ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     ResultadoLote r;
     r.arquivo = arquivo;
     CaixasLote caixas(r, sim);
+    std::error_code ec;
+    const std::filesystem::path caminho(std::u8string(arquivo.begin(), arquivo.end()));
+    if (std::filesystem::is_directory(caminho, ec)) {
+        r.arquivoDeCalculo = false;
+        r.status = 3;
+        MsgBox("É uma pasta, não um arquivo de cálculo", vbExclamation, "Arquivo: " + arquivo);
+        return r;
+    }
+    // A file that can't be opened here goes on to the open, which tells why.
+    if (std::ifstream entrada(caminho, std::ios::binary); entrada.is_open()) {
+        std::string inicio(static_cast<size_t>(BytesDoCabecalho), '\0');
+        entrada.read(inicio.data(), BytesDoCabecalho);
+        inicio.resize(static_cast<size_t>(entrada.gcount()));
+        if (!entrada.bad() && !PareceArquivoDeCalculo(inicio)) {
+            r.arquivoDeCalculo = false;
+            r.status = 3;
+            MsgBox("Não é um arquivo de cálculo do Tramelo", vbExclamation, "Arquivo: " + arquivo);
+            return r;
+        }
+    }
     FrmCalcTramelo* f = AbreCalculo(true, arquivo);
     if (!f || !f->ArquivoExiste) {
         r.status = 2;

@@ -230,5 +230,42 @@ TEST_F(DocumentArquivo, EfeitosDosTratadoresNaCarga) {
     EXPECT_EQ(g->txtDados(29)->Text(), "1,2");
 }
 
+// Damaged and odd files found by hand and by fuzzing the reader: each opens,
+// with no box unless the row says so, and its rows as the load rules leave them.
+TEST_F(DocumentArquivo, ArquivosDanificadosAbrem) {
+    const std::string cabeca = "\"\"\r\n\"\"\r\n\"\"\r\n0\r\n0,  \"Liqüido\"\r\n0\r\n\"t\"\r\n";
+    struct Caso {
+        std::string linhas;        // after the header
+        std::string linha9, linha29; // the texts of rows 9 and 29 once open
+    };
+    const Caso casos[] = {
+        // Beyond a double: the handler swallows the overflow, row 29 empty,
+        // then its own line (unit 2 is beyond the list, which stays on steel).
+        {"9,\"1E400\",0\r\n29,\"1\",2\r\n", "1E400", "1"},
+        {"9,\"1E400\",0\r\n", "1E400", ""},
+        {"9,\"" + std::string(400, '9') + "\",0\r\n", std::string(400, '9'), ""},
+        // A number of thousands of digits is read whole.
+        {"9,\"35," + std::string(2500, '0') + "\",0\r\n", "35," + std::string(2500, '0'), "1,00051"},
+        {"9,\"" + std::string(2500, '0') + "35\",0\r\n", std::string(2500, '0') + "35", "1,00051"},
+    };
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.linhas.substr(0, 40));
+        GravaBytes(pasta / "d.trl", ParaCp1252(cabeca + c.linhas));
+        auto f = Abre(pasta / "d.trl");
+        EXPECT_TRUE(caixas.mostradas.empty());
+        EXPECT_TRUE(f->ArquivoExiste);
+        EXPECT_EQ(f->txtDados(9)->Text(), c.linha9);
+        EXPECT_EQ(f->txtDados(29)->Text(), c.linha29);
+        EXPECT_EQ(f->cboDados(29)->ListIndex(), 0);
+        // Saved as it stands, row 29 included.
+        dialogos.nomes = {pasta / "d.trl"};
+        bool ok = false;
+        TrameloSave(*f, true, ok);
+        EXPECT_TRUE(ok);
+        EXPECT_NE(LeBytes(pasta / "d.trl").find("29,\"" + c.linha29 + "\",0\r\n"), std::string::npos);
+        caixas.mostradas.clear();
+    }
+}
+
 } // namespace
 } // namespace tramelo::teste

@@ -49,11 +49,18 @@ TEST(PlataformaNumero, TextoParaNumero) {
     } catch (const Falha& f) {
         EXPECT_EQ(f.numero(), 6);
     }
-    try {
-        TextoParaNumero("1E400");
-        ADD_FAILURE();
-    } catch (const Falha& f) {
-        EXPECT_EQ(f.numero(), 6);
+    // Read whole, however long; an exponent beyond any int is still a number.
+    EXPECT_EQ(TextoParaNumero(std::string(3000, '0') + "12,5" + std::string(3000, '0')), 12.5);
+    EXPECT_EQ(TextoParaNumero("1" + std::string(2500, '0') + "E-2500"), 1);
+    EXPECT_EQ(TextoParaNumero("1E-99999999999"), 0);
+    for (const std::string& t : {std::string("1E400"), std::string("-1E400"),
+                                 std::string("1E99999999999"), std::string(2500, '9')}) {
+        try {
+            TextoParaNumero(t);
+            ADD_FAILURE() << t;
+        } catch (const Falha& f) {
+            EXPECT_EQ(f.numero(), 6);
+        }
     }
 }
 
@@ -82,6 +89,9 @@ TEST(PlataformaNumero, NumeroParaTexto) {
         {1.00051, "1,00051"},
         {0.99999999999999989, "1"},
         {9.9999999999999995e-5, "0,0001"},
+        {HUGE_VAL, "1,#INF"}, // never made by the program's arithmetic
+        {-HUGE_VAL, "-1,#INF"},
+        {std::nan(""), "-1,#IND"},
     };
     for (const Caso& c : casos) EXPECT_EQ(NumeroParaTexto(c.valor), c.texto) << c.texto;
     EXPECT_EQ(NumeroSimplesParaTexto(0.102f), "0,102");
@@ -95,6 +105,7 @@ TEST(PlataformaNumero, ValLenienteECInt) {
     EXPECT_EQ(Val("abc"), 0);
     EXPECT_EQ(Val(""), 0);
     EXPECT_EQ(Val("&H1F"), 31);
+    EXPECT_EQ(Val("&H" + std::string(18, '9')), 11068046444225730969.0); // 16 digits taken, no wrap
     EXPECT_EQ(Val("-7x"), -7);
     EXPECT_EQ(CInt(2.5), 2);
     EXPECT_EQ(CInt(3.5), 4);

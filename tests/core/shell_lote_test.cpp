@@ -132,6 +132,24 @@ TEST_F(ShellLote, StatusDeSaida) {
     EXPECT_EQ(curto.status, 2);
     EXPECT_EQ(nlohmann::json::parse(curto.saida)[0]["erro"]["numero"], 62);
 
+    // Not calculation files: random bytes, a text, a folder. None is opened;
+    // the batch goes on and its status is the highest.
+    std::string aleatorio(5000, '\0');
+    for (size_t k = 0; k < aleatorio.size(); ++k) aleatorio[k] = static_cast<char>((k * 7919 + 13) % 251);
+    GravaBytes(pasta / "bytes.trl", aleatorio);
+    GravaBytes(pasta / "texto.trl", "um,dois,tres\r\nquatro\r\n");
+    Saida outros = Executa("--json " + pasta / "bytes.trl " + pasta / "texto.trl " + pasta.str() +
+                           " " + pasta / "curto.trl");
+    EXPECT_EQ(outros.status, 3);
+    auto k = nlohmann::json::parse(outros.saida);
+    ASSERT_EQ(k.size(), 4u);
+    for (int n : {0, 1, 2}) EXPECT_EQ(k[n]["arquivo_de_calculo"], false);
+    EXPECT_EQ(k[3]["arquivo_de_calculo"], true); // cut short: a calculation file all the same
+    EXPECT_EQ(outros.erros.substr(0, outros.erros.find("Informação de Erro")), "Arquivo: " + pasta / "bytes.trl" + ": Não é um arquivo de cálculo do Tramelo\n"
+                            "Arquivo: " + pasta / "texto.trl" + ": Não é um arquivo de cálculo do Tramelo\n"
+                            "Arquivo: " + pasta.str() + ": É uma pasta, não um arquivo de cálculo\n");
+    EXPECT_EQ(Executa(pasta / "bytes.trl").saida, "");
+
     Saida opcao = Executa("--nada " + pasta / "vazio.trl");
     EXPECT_EQ(opcao.status, 64);
     EXPECT_NE(opcao.erros.find("uso: tramelo-calc"), std::string::npos);
