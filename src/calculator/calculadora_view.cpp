@@ -180,10 +180,25 @@ void CalculadoraView::Executa(int tecla) {
     voltando_ = true;
     raise();
     activateWindow();
-    QTimer::singleShot(1000, this, [this] {
+    PedeAtivacao(6);
+}
+
+void CalculadoraView::PedeAtivacao(int vezes) {
+    // Asked again every half second on a busy desktop; after that, a window
+    // that still hasn't the activation counts as left by the user.
+    QTimer::singleShot(500, this, [this, vezes] {
         if (!voltando_) return;
+        if (isActiveWindow() || !isVisible() || fechando_) {
+            voltando_ = false;
+            return;
+        }
+        if (vezes > 1) {
+            activateWindow();
+            PedeAtivacao(vezes - 1);
+            return;
+        }
         voltando_ = false;
-        if (isVisible() && !fechando_ && !isActiveWindow()) Fecha();
+        Fecha();
     });
 }
 

@@ -52,6 +52,7 @@ class CalculadoraView : public QWidget {
     void Solta(int tecla);
     void Executa(int tecla);
     void ExecutaHandler(int tecla);
+    void PedeAtivacao(int vezes);
     void Botao(BotaoCalculadora* imagem, int face);
     void Mostra();
 
