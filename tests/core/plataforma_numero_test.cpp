@@ -125,18 +125,6 @@ TEST(PlataformaNumero, AritmeticaFalhaComoAPlataforma) {
     EXPECT_EQ(Variante(12.5).Texto(), "12,5");
 }
 
-TEST(PlataformaTexto, ComprimentoEmCaracteres) {
-    EXPECT_EQ(Len("Pressão diferencial"), 19);
-    EXPECT_EQ(Len("Diâmetro do orifício"), 20);
-    EXPECT_EQ(Len("M³/h"), 4);
-    EXPECT_EQ(Left("Água (Liqüido)", 4), "Água");
-    EXPECT_EQ(Mid("Água (Liqüido)", 7), "Liqüido)");
-    EXPECT_EQ(Mid("Água (Liqüido)", 7, 7), "Liqüido");
-    EXPECT_EQ(InStr(1, "Água (Liqüido)", "("), 6);
-    EXPECT_EQ(String(3, "=x"), "===");
-    EXPECT_EQ(LCase("C:\\ARQUIVOS\\ÁGUA.trl"), "c:\\arquivos\\água.trl");
-}
-
 } // namespace
 } // namespace tramelo
 
