@@ -138,14 +138,6 @@ TEST_F(DocumentArquivo, TabelaDeFalhas) {
     canal1().Reinicia();
     caixas.mostradas.clear();
 
-    // A header number beyond its list is a failure too.
-    GravaBytes(pasta / "fora.trl", "\"\"\r\n\"\"\r\n\"\"\r\n7\r\n0,  \"x\"\r\n0\r\n\"t\"\r\n");
-    Abre(pasta / "fora.trl");
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].titulo, "Informação de Erro Código :380");
-    canal1().Reinicia();
-    caixas.mostradas.clear();
-
     // Any text with the header's items opens as position 0 of each list.
     GravaBytes(pasta / "texto.trl", "um,dois,tres\r\nquatro cinco\r\nseis\r\nsete,oito,nove\r\n");
     auto k = Abre(pasta / "texto.trl");

@@ -144,6 +144,8 @@ TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     auto f = Escolhido(0);
     CampoDados(*f, 3, true); // no such row
     CampoDados(*f, 30, true);
+    CampoDados(*f, 31, true);
+    EXPECT_FALSE(f->picDados(31) || f->lblDados(31) || f->txtDados(31) || f->cboDados(31));
     CampoDados(*f, 25, true); // no unit list
     EXPECT_TRUE(LinhaEmUso(*f, 25));
     EXPECT_TRUE(f->lblDados(25)->Enabled && f->txtDados(25)->Enabled);

@@ -95,6 +95,7 @@ TEST(PlataformaNumero, ValLenienteECInt) {
     EXPECT_EQ(Val("abc"), 0);
     EXPECT_EQ(Val(""), 0);
     EXPECT_EQ(Val("&H1F"), 31);
+    EXPECT_EQ(Val("&H1G"), 1); // G is no hex digit
     EXPECT_EQ(Val("-7x"), -7);
     EXPECT_EQ(CInt(2.5), 2);
     EXPECT_EQ(CInt(3.5), 4);

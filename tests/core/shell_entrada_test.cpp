@@ -59,29 +59,5 @@ TEST(ShellEntrada, LinhaDeComandoParaArquivoInicial) {
     modBase().ArquivoInicial.clear();
 }
 
-TEST(ShellEntrada, ArgumentosJuntosPorUmBranco) {
-    struct Caso {
-        std::vector<const char*> argv;
-        const char* linha;
-    };
-    const Caso casos[] = {
-        {{"/usr/bin/Tramelo"}, ""},
-        {{"/usr/bin/Tramelo", "/home/ana/a b.trl"}, "/home/ana/a b.trl"},
-        {{"Tramelo", "/A", "/home/ana/a.trl"}, "/A /home/ana/a.trl"},
-        {{"Tramelo", "/home/ana/meus", "cálculos/a.trl"}, "/home/ana/meus cálculos/a.trl"},
-        {{"Tramelo", "", "x"}, " x"},
-    };
-    for (const Caso& c : casos)
-        EXPECT_EQ(JuntaArgumentos(static_cast<int>(c.argv.size()), c.argv.data()), c.linha);
-
-    const char* argv[] = {"Tramelo", "/C", "/tmp/x.trl"};
-    DefineLinhaComando(3, argv);
-    EXPECT_EQ(LinhaComando(), "/C /tmp/x.trl");
-    EXPECT_TRUE(std::filesystem::path(PastaExecutavel()).is_absolute());
-    EXPECT_TRUE(std::filesystem::is_directory(PastaExecutavel()));
-    EXPECT_NE(PastaExecutavel().back(), '/');
-    LinhaComando().clear();
-}
-
 } // namespace
 } // namespace tramelo::teste
