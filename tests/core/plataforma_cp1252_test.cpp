@@ -32,6 +32,7 @@ TEST(PlataformaCp1252, ForaDaPaginaEUtf8Invalido) {
     };
     const Caso casos[] = {
         {"ā", "?"},         // Latin Extended-A, not in the page
+        {"\u07FF", "?"},    // the last two-byte character
         {"Ω=1", "?=1"},     // Greek
         {"😀!", "?!"},       // four-byte sequence, one character
         {"\u0080", "?"},    // a C1 control whose byte means "€"
