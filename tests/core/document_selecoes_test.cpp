@@ -91,7 +91,7 @@ TEST(DocumentSelecoes, OrdemDasEscolhasEListaDeDados) {
     EXPECT_EQ(f->Placa, 2);
     EXPECT_TRUE(f->cboFluido.Enabled && f->lblFluido.Enabled);
     EXPECT_FALSE(f->cboTomada.Enabled);
-    f->cboFluido.DefineListIndex(2);
+    f->cboFluido.DefineListIndex(0); // the first fluid counts as a choice
     EXPECT_TRUE(f->cboTomada.Enabled && f->lblTomada.Enabled);
     EXPECT_FALSE(f->picLista.Enabled || f->txtTag.Enabled); // not ready yet
     EXPECT_FALSE(f->txtDados(9)->Enabled);                  // in use, but off

@@ -129,5 +129,19 @@ TEST(ShellAssociacaoExec, CaminhoNaLinhaExec) {
         EXPECT_EQ(ArgumentoExec(c.caminho), c.exec) << c.caminho;
 }
 
+// The desktop's databases are refreshed only by a tool found on the PATH.
+TEST(ShellAssociacaoExec, FerramentaSoQuandoInstalada) {
+    PastaTemporaria pasta;
+    const std::string ferramenta = pasta / "update-mime-database";
+    GravaBytes(ferramenta, "#!/bin/sh\necho \"$@\" > \"${0%/*}/chamada\"\n");
+    chmod(ferramenta.c_str(), 0755);
+    const std::string path = std::getenv("PATH") ? std::getenv("PATH") : "";
+    setenv("PATH", ("/nao/existe:" + pasta.str()).c_str(), 1);
+    ExecutaSeInstalada("update-mime-database", {"/tmp/x mime"});
+    ExecutaSeInstalada("update-desktop-database", {"/tmp/y"}); // not installed: nothing
+    setenv("PATH", path.c_str(), 1);
+    EXPECT_EQ(LeBytes(pasta / "chamada"), "/tmp/x mime\n");
+}
+
 } // namespace
 } // namespace tramelo::teste

@@ -58,6 +58,23 @@ TEST_F(ShellMdiMenu, CargaEDescargaComAsConfiguracoes) {
     EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1500");
 }
 
+TEST_F(ShellMdiMenu, BandasEImprimirSemRelatorio) {
+    MdiMenu& m = mdiMenu();
+    mnuExibirBarraPadrao_Click(); // one band left: the coolbar stays
+    EXPECT_TRUE(m.cobBarra.Visible);
+    EXPECT_FALSE(m.cobBarra.Bands(1).Visible || m.mnuExibirBarraPadrao.Checked);
+    EXPECT_TRUE(m.cobBarra.Bands(2).Visible);
+    mnuExibirBarraCalculo_Click(); // the last one: the coolbar goes
+    EXPECT_FALSE(m.cobBarra.Visible || m.mnuExibirBarraCalculo.Checked);
+
+    // "Imprimir" with no report active does nothing.
+    int impressos = 0;
+    ImprimeRelatorio = [&](FrmRelatorio&) { ++impressos; };
+    tbPadrao_ButtonClick("Imprimir");
+    ImprimeRelatorio = nullptr;
+    EXPECT_EQ(impressos, 0);
+}
+
 // Atualiza resets the frame's caption and refreshes the recent files when it can.
 TEST(ShellMdiMenuAtualiza, LegendaERecentes) {
     MdiMenu& m = mdiMenu();

@@ -90,7 +90,7 @@ TEST(SizingCasos, RelatoriosInteiros) {
         // Liquid: the worked case, then every tap, flow unit, pressure unit.
         {"liquido_flange.txt", 0, 1, 1, Agua, {}},
         {"liquido_radius_kgh_kgm2.txt", 0, 2, 1, Com(Agua, {{2, "49900"}, {5, "2549"}, {8, ""}}),
-         {{2, 1}, {5, 1}}},
+         {{2, 1}, {5, 1}}, 0, {vbYes, vbNo}, 1}, // a mass flow asks for the drawing once
         {"liquido_vena_th_mmca_relativa.txt", 0, 3, 2,
          Com(Agua, {{2, "2"}, {5, "2550"}, {9, "120"}, {18, "0,95"}, {20, "0,001"}}),
          {{2, 2}, {5, 2}, {20, 1}}, 1},
@@ -109,7 +109,7 @@ TEST(SizingCasos, RelatoriosInteiros) {
          0, {}, 0, "FE-101"},
         {"gas_umido_flange_kgcm2.txt", 1, 1, 1, Com(Ar, {{12, "5,1"}, {16, "50"}, {14, "0,0752"},
          {19, "0,98"}, {25, "0,999"}, {26, "0,995"}}), {{12, 1}}},
-        {"gas_kgh_vena.txt", 1, 3, 1, Com(Ar, {{2, "1300"}, {8, ""}, {25, ""}}), {{2, 1}}, 0, {}, 1},
+        {"gas_kgh_vena.txt", 1, 3, 1, Com(Ar, {{2, "1300"}, {8, ""}, {25, ""}}), {{2, 1}}},
         {"gas_pipe_taps_falha.txt", 1, 5, 1, Ar, {}},
         // Steam: both mass units, both pressure units.
         {"vapor_vena.txt", 2, 3, 1, Vapor, {{12, 1}}, 0, {}, 0, ""},
