@@ -67,10 +67,11 @@ TEST_F(ShellMdiMenu, BandasEImprimirSemRelatorio) {
     mnuExibirBarraCalculo_Click(); // the last one: the coolbar goes
     EXPECT_FALSE(m.cobBarra.Visible || m.mnuExibirBarraCalculo.Checked);
 
-    // "Imprimir" with no report active does nothing.
+    // "Imprimir" on either bar with no report active does nothing.
     int impressos = 0;
     ImprimeRelatorio = [&](FrmRelatorio&) { ++impressos; };
     tbPadrao_ButtonClick("Imprimir");
+    tbCalculo_ButtonClick("Imprimir");
     ImprimeRelatorio = nullptr;
     EXPECT_EQ(impressos, 0);
 }
