@@ -69,6 +69,15 @@ TEST_F(DocumentCiclo, NumeracaoDosNovosCalculos) {
     EXPECT_TRUE(caixas.mostradas.empty());
 }
 
+TEST_F(DocumentCiclo, AbrirCanceladoEFecharTodos) {
+    EXPECT_EQ(AbreCalculo(true, std::string()), nullptr); // dialog cancelled: no message
+    EXPECT_TRUE(caixas.mostradas.empty());
+    AbreCalculo(false, std::string());
+    AbreCalculo(false, std::string());
+    EXPECT_TRUE(DescarregaTodosCalculos()); // nothing to save: all go
+    EXPECT_TRUE(Calculos().empty());
+}
+
 TEST_F(DocumentCiclo, NomesDerivadosDePastaELegenda) {
     FrmCalcTramelo& f = Novo();
     // Saved through the dialog elsewhere: the caption keeps its name.
