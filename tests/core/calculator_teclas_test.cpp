@@ -68,63 +68,42 @@ TEST(CalculatorTeclas, SequenciasTrabalhadas) {
         // Typing numbers: a whole number keeps its separator at the end.
         {"", "0,", nullptr, 0, " ", "NONE", 0},
         {"1", "1,", nullptr, 0, " ", "NUMS", 0},
-        {"12", "12,", nullptr, 0, " ", "NUMS", 0},
         {"12,5", "12,5", nullptr, 0, " ", "NUMS", 0},
         {",", "0,", nullptr, 0, " ", "NUMS", 0},
         {",5", "0,5", nullptr, 0, " ", "NUMS", 0},
-        {"1,,5", "1,5", nullptr, 0, " ", "NUMS", 0},
-        {"0", "0,", nullptr, 0, " ", "NUMS", 0},
         {"007", "007,", nullptr, 0, " ", "NUMS", 0},
         // The sign of the number to come, and its guard.
         {"-", "-0,", nullptr, 0, " ", "NEG", 0},
         {"-3", "-3,", nullptr, 0, " ", "NUMS", 0},
-        {"--", "-0,", nullptr, 0, " ", "NEG", 0},
         {"-+*/", "-0,", nullptr, 0, " ", "NEG", 0},
-        {"-=", "-0,", nullptr, 0, " ", "NEG", 0},
-        {"-,5", "-0,5", nullptr, 0, " ", "NUMS", 0},
         {"-5-2=", "-7", "-7", 1, "=", "OPS", 0},
         {"5+-3=", "2", "2", 1, "=", "OPS", 0},
-        {"5*-2=", "-10", "-10", 1, "=", "OPS", 0},
-        {"5--3=", "8", "8", 1, "=", "OPS", 0},
         {"5+-,5=", "4,5", "4,5", 1, "=", "OPS", 0},
         // Running results, no precedence.
         {"5+3+", "8", nullptr, 1, "+", "OPS", 0},
         {"5+3+7=", "15", "15", 1, "=", "OPS", 0},
-        {"2*3*4=", "24", "24", 1, "=", "OPS", 0},
         {"2+3*4=", "20", "20", 1, "=", "OPS", 0},
-        {"2-5=", "-3", "-3", 1, "=", "OPS", 0},
-        {"6/2=", "3", "3", 1, "=", "OPS", 0},
         {"10/4=", "2,5", "2,5", 1, "=", "OPS", 0},
-        {"1,5*2=", "3", "3", 1, "=", "OPS", 0},
         {"1/3=", "0,333333333333333", "0,333333333333333", 1, "=", "OPS", 0},
         {"0,1+0,2=", "0,3", "0,3", 1, "=", "OPS", 0},
         // "=" with one operand lets the display leave as it is.
         {"7=", "7,", "7,", 1, "=", "OPS", 0},
-        {"12+=", "12,", "12,", 1, "=", "OPS", 0},
         {"=", "0,", "0,", 0, "=", "OPS", 0},
         // Division by zero: told, and the running result stays.
         {"8/0=", "8,", "8,", 1, "=", "OPS", 1},
-        {"8/0,0=", "8,", "8,", 1, "=", "OPS", 1},
         {"8/,=", "8,", "8,", 1, "=", "OPS", 1},
-        {"0/0=", "0,", "0,", 1, "=", "OPS", 1},
         {"8/0+2=", "10", "10", 1, "=", "OPS", 1},
         // Percent multiplies by the percentage.
         {"200+10%", "0,1", nullptr, 2, "%", "Ops", 0},
         {"200+10%=", "20", "20", 1, "=", "OPS", 0},
         {"5+3%=", "0,15", "0,15", 1, "=", "OPS", 0},
-        {"50%", "0,5", nullptr, 1, "%", "Ops", 0},
-        {"50%=", "0,5", "0,5", 1, "=", "OPS", 0},
         {"50%5", "5,", nullptr, 1, "%", "NUMS", 0},
         // Twice in a row: three operands pending, nothing computes until C.
         {"5+3%%", "0,0003", nullptr, 3, "%", "Ops", 0},
-        {"5+3%%7+", "7,", nullptr, 4, "+", "OPS", 0},
         {"5+3%%7+=", "7,", "7,", 4, "=", "OPS", 0},
         // CE clears the entry only; C clears all.
-        {"5+E", "0,", nullptr, 1, "+", "CE", 0},
         {"5+E3=", "8", "8", 1, "=", "OPS", 0},
         {"5+3E", "0,", nullptr, 1, "+", "CE", 0},
-        {"5+3C", "0,", nullptr, 0, " ", "NONE", 0},
-        {"5+3C7", "7,", nullptr, 0, " ", "NUMS", 0},
         {"5+3C7=", "7,", "7,", 1, "=", "OPS", 0},
     };
     for (const Caso& k : casos) {
@@ -150,33 +129,6 @@ TEST(CalculatorTeclas, SequenciasTrabalhadas) {
     }
 }
 
-TEST(CalculatorTeclas, CeCEResetam) {
-    teste::CaixasRoteiro caixas;
-    Calculadora c;
-    Teclas(c, "5+3%");
-    EXPECT_EQ(c.Operando1.Texto(), "5,");
-    EXPECT_TRUE(c.TemDecimal);
-    // CE: the operands and what is pending stay.
-    cmdCancelEntry_Click(c);
-    EXPECT_EQ(c.Readout, "0,");
-    EXPECT_FALSE(c.TemDecimal);
-    EXPECT_EQ(c.Operando1.Texto(), "5,");
-    EXPECT_EQ(c.QtdOperandos, 2);
-    // C: both operands go back to 0.
-    Tecla(c, '=');
-    Tecla(c, 'C');
-    EXPECT_EQ(c.Operando1.Texto(), "0");
-    EXPECT_EQ(c.Operando2.Texto(), "0");
-    EXPECT_EQ(c.Readout, "0,");
-    EXPECT_FALSE(c.TemDecimal);
-    EXPECT_EQ(c.CaptionDecimal, ",");
-    // A reset alone doesn't touch the operands.
-    Teclas(c, "9+");
-    Form_Load(c);
-    EXPECT_EQ(c.Operando1.Texto(), "9,");
-    EXPECT_EQ(c.Readout, "0,");
-}
-
 // What the machine can't go on from is handed back as a failure, never thrown,
 // and nothing leaves.
 TEST(CalculatorTeclas, FalhasFatais) {
@@ -190,7 +142,6 @@ TEST(CalculatorTeclas, FalhasFatais) {
         {"5+--3=", 13, "Tipos incompatíveis"}, // a lone "-" became the left operand
         {"5+-%", 13, "Tipos incompatíveis"},   // percent of a lone "-"
         {noves200 + "*" + noves200 + "=", 6, "Estouro"},
-        {noves200 + "*" + noves200 + "+", 6, "Estouro"},
         {noves200 + "/," + std::string(200, '0') + "1=", 6, "Estouro"},
     };
     for (const Caso& k : casos) {
@@ -221,15 +172,12 @@ TEST(CalculatorTeclas, ColaDigitaOTextoDoCampo) {
         {"", "0,", "NONE", false},
         {"7", "7,", "NUMS", false},
         {"12,5", "12,5", "NUMS", false},
-        {",5", "0,5", "NUMS", false},
-        {"0,25", "0,25", "NUMS", false},
         {"1,,5", "1,5", "NUMS", false},
         // The separator is the literal comma; anything else fails, with the
         // keys before it typed.
         {"-5", "0,", "NONE", true},
         {"1a", "1,", "NUMS", true},
         {"12.5", "12,", "NUMS", true},
-        {"3 ", "3,", "NUMS", true},
         {"5º", "5,", "NUMS", true},
     };
     for (const Caso& k : casos) {
@@ -251,52 +199,6 @@ TEST(CalculatorTeclas, ColaDigitaOTextoDoCampo) {
     Tecla(c, '+');
     Tecla(c, '1');
     EXPECT_EQ(Tecla(c, '=').resultado, std::optional<std::string>("13,5"));
-}
-
-TEST(CalculatorTeclas, TabelaDeEstados) {
-    struct Caso {
-        const char* preparo; // keys that reach the state
-        const char* de;      // the state reached
-        char tecla;
-        const char* para;
-    };
-    // Operator "-" is a sign only with 0 or 1 operands pending and not after
-    // a number, and never once "=" is pending.
-    const Caso casos[] = {
-        {"", "NONE", '3', "NUMS"},    {"", "NONE", ',', "NUMS"},     {"", "NONE", '+', "OPS"},
-        {"", "NONE", '-', "NEG"},     {"", "NONE", '%', "Ops"},      {"", "NONE", 'E', "CE"},
-        {"", "NONE", 'C', "NONE"},    {"5", "NUMS", '3', "NUMS"},    {"5", "NUMS", ',', "NUMS"},
-        {"5", "NUMS", '+', "OPS"},    {"5", "NUMS", '-', "OPS"},     {"5+3", "NUMS", '-', "OPS"},
-        {"5", "NUMS", '%', "Ops"},    {"5", "NUMS", 'E', "CE"},      {"5", "NUMS", 'C', "NONE"},
-        {"5+", "OPS", '3', "NUMS"},   {"5+", "OPS", ',', "NUMS"},    {"5+", "OPS", '*', "OPS"},
-        {"5+", "OPS", '-', "NEG"},    {"5+3%%+", "OPS", '-', "OPS"}, {"5+", "OPS", '%', "Ops"},
-        {"5+", "OPS", 'E', "CE"},     {"5+", "OPS", 'C', "NONE"},    {"5%", "Ops", '3', "NUMS"},
-        {"5%", "Ops", ',', "NUMS"},   {"5%", "Ops", '+', "OPS"},     {"5%", "Ops", '-', "NEG"},
-        {"5+3%%", "Ops", '-', "OPS"}, {"5%", "Ops", '%', "Ops"},     {"5%", "Ops", 'E', "CE"},
-        {"5%", "Ops", 'C', "NONE"},   {"5+E", "CE", '3', "NUMS"},    {"5+E", "CE", ',', "NUMS"},
-        {"5+E", "CE", '+', "OPS"},    {"5+E", "CE", '-', "NEG"},     {"E", "CE", '-', "NEG"},
-        {"5+3%%E", "CE", '-', "OPS"}, {"5+E", "CE", '%', "Ops"},     {"5+E", "CE", 'E', "CE"},
-        {"5+E", "CE", 'C', "NONE"},   {"-", "NEG", '3', "NUMS"},     {"-", "NEG", ',', "NUMS"},
-        {"-", "NEG", '+', "NEG"},     {"-", "NEG", '-', "NEG"},      {"5+-", "NEG", '*', "NEG"},
-        {"-", "NEG", '%', "Ops"},     {"-", "NEG", 'E', "CE"},       {"-", "NEG", 'C', "NONE"},
-    };
-    for (const Caso& k : casos) {
-        SCOPED_TRACE(std::string(k.preparo) + " " + k.tecla);
-        teste::CaixasRoteiro caixas;
-        Calculadora c;
-        Teclas(c, k.preparo);
-        ASSERT_EQ(c.UltimaEntrada, k.de);
-        EXPECT_FALSE(Tecla(c, k.tecla).erro);
-        EXPECT_EQ(c.UltimaEntrada, k.para);
-    }
-    // With "=" pending a "-" is never a sign (the window has closed by then,
-    // but the machine keeps the rule).
-    Calculadora c;
-    Teclas(c, "5");
-    Tecla(c, '=');
-    Tecla(c, '-');
-    EXPECT_EQ(c.UltimaEntrada, "OPS");
-    EXPECT_EQ(c.Readout, "5,");
 }
 
 TEST(CalculadoraTeclas, AbreSobOuSobreOCampo) {

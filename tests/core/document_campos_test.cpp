@@ -144,6 +144,8 @@ TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     auto f = Escolhido(0);
     CampoDados(*f, 3, true); // no such row
     CampoDados(*f, 30, true);
+    CampoDados(*f, 31, true);
+    EXPECT_FALSE(f->picDados(31) || f->lblDados(31) || f->txtDados(31) || f->cboDados(31));
     CampoDados(*f, 25, true); // no unit list
     EXPECT_TRUE(LinhaEmUso(*f, 25));
     EXPECT_TRUE(f->lblDados(25)->Enabled && f->txtDados(25)->Enabled);
@@ -161,72 +163,6 @@ TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     EXPECT_TRUE(LinhaEmUso(*f, 16));
     EXPECT_TRUE(f->picDados(16)->Enabled);
     EXPECT_FALSE(f->lblDados(16)->Enabled || f->txtDados(16)->Enabled || f->cboDados(16)->Enabled);
-}
-
-TEST(DocumentCampos, BarraDesligadaComPoucasLinhas) {
-    CaixasRoteiro caixas;
-    auto f = Escolhido(0);
-    f->barraV.DefineValue(2);
-    EXPECT_EQ(f->picMove.Top, -50);
-    // 8, 9, density, 17, 18 leave K at 9: everything is in sight.
-    for (int i : {20, 28, 29})
-        CampoDados(*f, i, false);
-    OrganizaCampos(*f);
-    EXPECT_EQ(f->picMove.Height, 9 * 25);
-    EXPECT_EQ(f->barraV.Value, 0);
-    EXPECT_FALSE(f->barraV.Enabled);
-    EXPECT_EQ(f->picMove.Top, 0);
-}
-
-TEST(DocumentCampos, TodosCampoDados) {
-    CaixasRoteiro caixas;
-    auto f = Escolhido(1);
-    mdiMenu().tbCalculo.Botao("Calcular")->Enabled = true;
-    std::vector<std::string> flags;
-    for (int i : LinhasDados)
-        flags.push_back(f->picDados(i)->Tag);
-    TodosCampoDados(*f, false);
-    EXPECT_FALSE(f->picLista.Enabled || f->cmdCalcular.Enabled || f->barraV.Enabled ||
-                 f->txtTag.Enabled || f->cboMassaDensidade.Enabled);
-    EXPECT_FALSE(f->picMenu.corAtiva);
-    EXPECT_TRUE(mdiMenu().tbCalculo.Botao("Calcular")->Enabled); // the bars aren't touched
-
-    TodosCampoDados(*f, true);
-    EXPECT_TRUE(f->picLista.Enabled && f->txtTag.Enabled && f->picDados(1)->Enabled);
-    EXPECT_TRUE(f->picMenu.corAtiva);
-    for (size_t k = 0; k < LinhasDados.size(); ++k) {
-        int i = LinhasDados[k];
-        EXPECT_FALSE(f->txtDados(i)->Enabled) << i; // greyed whatever the argument
-        EXPECT_EQ(f->picDados(i)->Visible, i <= 5) << i;
-        EXPECT_EQ(f->picDados(i)->Tag, flags[k]) << i; // the in-use flags stay
-    }
-}
-
-TEST(DocumentCampos, ListasDeUnidades) {
-    struct Caso {
-        int linha;
-        std::vector<int> escalas;
-    };
-    const Caso casos[] = {{2, {1}},       {4, {4}},       {5, {5, 6, 7}}, {8, {8}},
-                          {9, {8}},       {10, {10, 11}}, {12, {10, 11}}, {14, {10, 11}},
-                          {16, {16}},     {17, {17, 0}},  {18, {17, 0}},  {19, {17, 0}},
-                          {20, {20, 21}}, {29, {29, 30}}};
-    auto f = Carregado();
-    for (const Caso& c : casos) {
-        CaixaCombinacao* cbo = f->cboDados(c.linha);
-        ASSERT_EQ(cbo->ListCount(), static_cast<int>(c.escalas.size())) << c.linha;
-        for (size_t k = 0; k < c.escalas.size(); ++k) {
-            EXPECT_EQ(cbo->itens[k].ItemData, c.escalas[k]) << c.linha;
-            EXPECT_EQ(cbo->itens[k].texto, catalogo().NomeEscalas[c.escalas[k]]) << c.linha;
-        }
-        EXPECT_EQ(cbo->ListIndex(), 0) << c.linha;
-    }
-    EXPECT_EQ(f->cboDados(17)->itens[1].texto, "");
-    EXPECT_EQ(f->cboDados(29)->Text(), "Aço inox 304/316");
-    for (int i : {25, 26, 27, 28})
-        EXPECT_EQ(f->cboDados(i), nullptr);
-    AddItemCombo(*f, 26, 1); // a row without a list
-    AddItemCombo(*f, 3, 1);  // no row
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The life of calculation windows: numbering, names from folder and caption,
 // the question on close, and what a cancel keeps.
 #include "caixas_roteiro.h"
+#include "calculo_pronto.h"
 #include "dialogos_roteiro.h"
 #include "pasta_temporaria.h"
 
@@ -68,18 +69,12 @@ TEST_F(DocumentCiclo, NumeracaoDosNovosCalculos) {
     EXPECT_TRUE(caixas.mostradas.empty());
 }
 
-TEST_F(DocumentCiclo, AbrirCanceladoOuInexistente) {
-    EXPECT_EQ(AbreCalculo(true, std::string()), nullptr); // dialog cancelled
+TEST_F(DocumentCiclo, AbrirCanceladoEFecharTodos) {
+    EXPECT_EQ(AbreCalculo(true, std::string()), nullptr); // dialog cancelled: no message
     EXPECT_TRUE(caixas.mostradas.empty());
-    EXPECT_TRUE(Calculos().empty());
-    EXPECT_EQ(dialogos.mostrados[0].DialogTitle, "Abrir Tramelo");
-    EXPECT_EQ(dialogos.mostrados[0].InitDir, modBase().PastaSaves);
-    EXPECT_TRUE(ExistePasta(modBase().PastaSaves)); // made on demand
-
-    EXPECT_EQ(AbreCalculo(true, pasta / "nao.trl"), nullptr);
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].texto, "Arquivo não encontrado");
-    EXPECT_EQ(caixas.mostradas[0].titulo, pasta / "nao.trl");
+    AbreCalculo(false, std::string());
+    AbreCalculo(false, std::string());
+    EXPECT_TRUE(DescarregaTodosCalculos()); // nothing to save: all go
     EXPECT_TRUE(Calculos().empty());
 }
 
@@ -117,51 +112,6 @@ TEST_F(DocumentCiclo, NomesDerivadosDePastaELegenda) {
     EXPECT_EQ(dialogos.mostrados.size(), 1u); // no dialog for an opened file
 }
 
-TEST_F(DocumentCiclo, PerguntaAoFechar) {
-    FrmCalcTramelo& f = Novo();
-    f.txtTag.DefineTexto("x");
-    caixas.mostradas.clear(); // the fluid's name box
-    // Yes, then the save dialog cancelled: the window stays, still changed.
-    caixas.respostas = {vbYes};
-    EXPECT_FALSE(DescarregaCalculo(f));
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].texto, "Deseja salvar as alterações efetuadas neste Cálculo?");
-    EXPECT_EQ(caixas.mostradas[0].estilo, vbYesNoCancel + vbQuestion);
-    EXPECT_EQ(caixas.mostradas[0].titulo, f.ArquivoCalculo);
-    EXPECT_TRUE(f.Alterado());
-    // Cancel keeps it; No closes it without saving, the report with it.
-    caixas.respostas = {vbCancel};
-    EXPECT_FALSE(DescarregaCalculo(f));
-    caixas.respostas = {vbNo};
-    EXPECT_TRUE(DescarregaCalculo(f));
-    EXPECT_TRUE(Calculos().empty());
-
-    // Text typed in the report counts even with no activation in between.
-    FrmCalcTramelo& g = Novo();
-    g.DefineAlterado(false);
-    g.Relatorio->txtData = "hoje";
-    caixas.mostradas.clear();
-    caixas.respostas = {vbNo};
-    EXPECT_TRUE(DescarregaCalculo(g));
-    EXPECT_EQ(caixas.mostradas.size(), 1u);
-}
-
-TEST_F(DocumentCiclo, SaidaPerguntaATodosAntesDeFecharAlgum) {
-    FrmCalcTramelo& a = Novo();
-    FrmCalcTramelo& b = Novo();
-    a.txtTag.DefineTexto("a");
-    b.txtTag.DefineTexto("b");
-    caixas.mostradas.clear();
-    // The first says no, the second cancels: both stay.
-    caixas.respostas = {vbNo, vbCancel};
-    EXPECT_FALSE(DescarregaTodosCalculos());
-    EXPECT_EQ(Calculos().size(), 2u);
-    EXPECT_EQ(caixas.mostradas.size(), 2u);
-    caixas.respostas = {vbNo, vbNo};
-    EXPECT_TRUE(DescarregaTodosCalculos());
-    EXPECT_TRUE(Calculos().empty());
-}
-
 TEST_F(DocumentCiclo, TrameloLimpaEsvaziaODocumento) {
     FrmCalcTramelo& f = Novo();
     f.txtTag.DefineTexto("FT");
@@ -176,6 +126,28 @@ TEST_F(DocumentCiclo, TrameloLimpaEsvaziaODocumento) {
     EXPECT_EQ(f.cboTramelo.ListIndex(), -1);
     EXPECT_EQ(f.Relatorio->txtCliente, "");
     EXPECT_NE(f.Relatorio->txtData, "Abrindo");
+}
+
+// The report's header fields flow back into the calculation on activation.
+TEST(DocumentCicloAtivacao, CabecalhoDoRelatorioVolta) {
+    auto f = Escolhido();
+    f->DefineAlterado(false);
+    f->Relatorio->txtOS = "OS-7";
+    Form_Activate(*f); // "Abrindo": never initialised
+    EXPECT_FALSE(f->Alterado());
+    EXPECT_EQ(f->TextoOS, "");
+
+    f->Relatorio->txtData = "10:00 - 01/02/2003";
+    f->Relatorio->txtCliente = "Quillon";
+    Form_Activate(*f);
+    EXPECT_TRUE(f->Alterado());
+    EXPECT_EQ(f->TextoData, "10:00 - 01/02/2003");
+    EXPECT_EQ(f->TextoOS, "OS-7");
+    EXPECT_EQ(f->TextoCliente, "Quillon");
+
+    f->DefineAlterado(false);
+    Form_Activate(*f); // all three alike
+    EXPECT_FALSE(f->Alterado());
 }
 
 } // namespace

@@ -52,21 +52,6 @@ TEST(DocumentEntrada, FiltroDeTeclas) {
     EXPECT_EQ(f->txtDados(4)->Text(), "1.2.3 abc");
 }
 
-TEST(DocumentEntrada, EnterAbreACalculadora) {
-    auto f = Escolhido(0);
-    std::vector<int> abertas;
-    AbreCalculadora = [&](FrmCalcTramelo& janela, int i) {
-        EXPECT_EQ(&janela, f.get());
-        abertas.push_back(i);
-    };
-    txtDados_KeyUp(*f, 9, 13, 0);
-    txtDados_KeyUp(*f, 9, 65, 0);
-    txtDados_DblClick(*f, 20);
-    AbreCalculadora = nullptr;
-    txtDados_KeyUp(*f, 9, 13, 0);
-    EXPECT_EQ(abertas, (std::vector<int>{9, 20}));
-}
-
 TEST(DocumentEntrada, FatorDoAcoInox) {
     // (T - 20) * 3,4E-05 + 1, for stainless steel only.
     struct Caso {
@@ -91,60 +76,6 @@ TEST(DocumentEntrada, MudancasMarcamAlteracao) {
     f->DefineAlterado(false);
     f->txtTag.DefineTexto("FT-1");
     EXPECT_TRUE(f->Alterado());
-}
-
-TEST(DocumentEntrada, ListaSegueOFoco) {
-    // Liquid with the three pressure rows in use: 15 rows, 9 in sight.
-    auto f = Escolhido(0);
-    for (int i : {10, 12, 14})
-        CampoDados(*f, i, true);
-    OrganizaCampos(*f);
-    ASSERT_EQ(f->barraV.Max, 6);
-    ASSERT_EQ(f->picDados(29)->Top, 14 * 25);
-
-    struct Passo {
-        const char* foco;
-        int linha;
-        int valor;
-    };
-    // The fifteenth row comes in as the ninth in sight; rows still in sight
-    // don't move the view; going back up brings a row to the top; the tag
-    // resets the view.
-    const Passo passos[] = {
-        {"txt", 29, 6}, {"txt", 28, 6}, {"cbo", 9, 5},  {"txt", 5, 3}, {"massa", 1, 3},
-        {"cbo", 20, 4}, {"tag", 0, 0},  {"txt", 28, 5}, {"txt", 2, 1},
-    };
-    for (const Passo& p : passos) {
-        std::string foco = p.foco;
-        if (foco == "txt")
-            txtDados_GotFocus(*f, p.linha);
-        else if (foco == "cbo")
-            cboDados_GotFocus(*f, p.linha);
-        else if (foco == "massa")
-            cboMassaDensidade_GotFocus(*f);
-        else
-            txtTag_GotFocus(*f);
-        EXPECT_EQ(f->barraV.Value, p.valor) << foco << " " << p.linha;
-        EXPECT_EQ(f->picMove.Top, -25 * p.valor) << foco << " " << p.linha;
-    }
-}
-
-TEST(DocumentEntrada, FocoLigaACalculadoraESelecionaOTexto) {
-    auto f = Escolhido(0);
-    BotaoBarra* calculadora = mdiMenu().tbCalculo.Botao("Calculadora");
-    ASSERT_NE(calculadora, nullptr);
-    f->txtDados(18)->DefineTexto("Água");
-    txtDados_GotFocus(*f, 18);
-    EXPECT_TRUE(calculadora->Enabled);
-    EXPECT_EQ(f->txtDados(18)->SelStart, 0);
-    EXPECT_EQ(f->txtDados(18)->SelLength, 4);
-    f->DefineAlterado(false);
-    txtDados_LostFocus(*f, 18);
-    EXPECT_FALSE(calculadora->Enabled);
-    EXPECT_EQ(f->txtDados(18)->Text(), "Água");
-    EXPECT_FALSE(f->Alterado());
-    cboDados_GotFocus(*f, 18);
-    EXPECT_FALSE(calculadora->Enabled);
 }
 
 } // namespace

@@ -106,6 +106,7 @@ TEST(PlataformaNumero, ValLenienteECInt) {
     EXPECT_EQ(Val(""), 0);
     EXPECT_EQ(Val("&H1F"), 31);
     EXPECT_EQ(Val("&H" + std::string(18, '9')), 11068046444225730969.0); // 16 digits taken, no wrap
+    EXPECT_EQ(Val("&H1G"), 1); // G is no hex digit
     EXPECT_EQ(Val("-7x"), -7);
     EXPECT_EQ(CInt(2.5), 2);
     EXPECT_EQ(CInt(3.5), 4);
@@ -134,18 +135,6 @@ TEST(PlataformaNumero, AritmeticaFalhaComoAPlataforma) {
     EXPECT_EQ(Variante().Numero().valor(), 0);
     EXPECT_EQ(numero([] { return Variante("abc").Numero(); }), 13);
     EXPECT_EQ(Variante(12.5).Texto(), "12,5");
-}
-
-TEST(PlataformaTexto, ComprimentoEmCaracteres) {
-    EXPECT_EQ(Len("Pressão diferencial"), 19);
-    EXPECT_EQ(Len("Diâmetro do orifício"), 20);
-    EXPECT_EQ(Len("M³/h"), 4);
-    EXPECT_EQ(Left("Água (Liqüido)", 4), "Água");
-    EXPECT_EQ(Mid("Água (Liqüido)", 7), "Liqüido)");
-    EXPECT_EQ(Mid("Água (Liqüido)", 7, 7), "Liqüido");
-    EXPECT_EQ(InStr(1, "Água (Liqüido)", "("), 6);
-    EXPECT_EQ(String(3, "=x"), "===");
-    EXPECT_EQ(LCase("C:\\ARQUIVOS\\ÁGUA.trl"), "c:\\arquivos\\água.trl");
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// The first instance from its entry to its running state, a second start's
-// command, the way down, and the splash and about records.
+// The first instance from its entry to what it opens, and a second start's
+// command reaching it.
 #include "caixas_roteiro.h"
 #include "dialogos_roteiro.h"
 #include "pasta_temporaria.h"
@@ -43,11 +43,6 @@ class TelaAberturaRoteiro : public TelaAbertura {
     std::function<void()> duranteOSplash;
 };
 
-struct Lugar {
-    int Left, Top, Width, Height;
-    bool minimizada, maximizada; // as the desktop reports them
-};
-
 class TelaMenuRoteiro : public TelaMenu {
   public:
     explicit TelaMenuRoteiro(Registro& r) : eventos(r) {}
@@ -61,19 +56,10 @@ class TelaMenuRoteiro : public TelaMenu {
     void AplicaEstado() override {
         eventos.push_back("estado " + std::to_string(mdiMenu().WindowState));
     }
-    void GuardaLugar() override {
-        MdiMenu& m = mdiMenu();
-        m.Left = lugar.Left;
-        m.Top = lugar.Top;
-        m.Width = lugar.Width;
-        m.Height = lugar.Height;
-        m.WindowState = EstadoDaJanela(lugar.minimizada, lugar.maximizada);
-        eventos.push_back("lugar guardado");
-    }
+    void GuardaLugar() override { eventos.push_back("lugar guardado"); }
     void DescarregaOutras() override { eventos.push_back("outras descarregadas"); }
     Registro& eventos;
     bool visivel = false, mostraFalha = false;
-    Lugar lugar{60, 630, 6495, 5730, false, false};
 };
 
 class LigacaoRoteiro : public LigacaoInstancias {
@@ -89,24 +75,6 @@ class LigacaoRoteiro : public LigacaoInstancias {
     }
     Registro& eventos;
     std::function<void(const std::string&)> recebe;
-};
-
-class SistemaRoteiro : public Sistema {
-  public:
-    SistemaRoteiro() : anterior_(ambiente().sistema) { ambiente().sistema = this; }
-    ~SistemaRoteiro() override { ambiente().sistema = anterior_; }
-    void DoEvents() override {}
-    void MousePointer(int forma) override { ponteiro = forma; }
-    bool Abre(const std::string& c) override {
-        abertos.push_back(c);
-        return abre;
-    }
-    std::vector<std::string> abertos;
-    int ponteiro = -1;
-    bool abre = true;
-
-  private:
-    Sistema* anterior_;
 };
 
 class ShellInicio : public ::testing::Test {
@@ -164,30 +132,11 @@ class ShellInicio : public ::testing::Test {
     PastaTemporaria pasta;
     CaixasRoteiro caixas;
     DialogosRoteiro dialogos;
-    SistemaRoteiro sistema;
     Registro eventos;
     TelaAberturaRoteiro abertura{eventos};
     TelaMenuRoteiro tela{eventos};
     LigacaoRoteiro ligacao{eventos};
 };
-
-TEST_F(ShellInicio, PrimeiraPartidaSemNadaGuardado) {
-    Main();
-    EXPECT_EQ(eventos, (Registro{"splash carregado", "menu carregado", "atende Tramelo|Menu",
-                                 "splash modal", "splash descarregado", "menu mostrado", "dica"}));
-    EXPECT_TRUE(Calculos().empty());
-    EXPECT_TRUE(caixas.mostradas.empty());
-    EXPECT_FALSE(frmAbertura().tmrLogin.Enabled);
-    EXPECT_EQ(mdiMenu().Left, 60); // the design place
-    EXPECT_EQ(mdiMenu().WindowState, 0);
-    EXPECT_EQ(mdiMenu().Caption, "Tramelo");
-    // Folders named, none made; the association claimed on the way.
-    EXPECT_EQ(modBase().PastaSaves, pasta / "bin/Saves");
-    EXPECT_EQ(modBase().PastaRelatorios, pasta / "bin/Relatorios");
-    EXPECT_FALSE(std::filesystem::exists(pasta / "bin/Saves"));
-    EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", ""), "Tramelo.File");
-    EXPECT_TRUE(std::filesystem::exists(pasta / "share/applications/Tramelo.desktop"));
-}
 
 TEST_F(ShellInicio, OQueAbreAoFimDaPartida) {
     struct Caso {
@@ -237,43 +186,6 @@ TEST_F(ShellInicio, OQueAbreAoFimDaPartida) {
     }
 }
 
-TEST_F(ShellInicio, PrefixoSemNomeFalhaNaPartida) {
-    for (const char* linha : {"/A", "/C"}) {
-        SCOPED_TRACE(linha);
-        std::filesystem::remove_all(pasta / "bin");
-        std::filesystem::create_directories(pasta / "bin");
-        caixas.mostradas.clear();
-        eventos.clear();
-        LinhaComando() = linha;
-
-        Main();
-
-        ASSERT_EQ(caixas.mostradas.size(), 1u);
-        EXPECT_EQ(caixas.mostradas[0].titulo, "Informação de Erro Código :5");
-        // The frame comes up with nothing opened, and the steps after the
-        // failure, the association among them, never ran.
-        EXPECT_EQ(eventos, (Registro{"splash carregado", "menu carregado", "atende Tramelo|Menu",
-                                     "splash modal", "splash descarregado", "menu mostrado"}));
-        EXPECT_TRUE(Calculos().empty());
-        EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", ""), "");
-    }
-}
-
-TEST_F(ShellInicio, ComandoQueChegaDuranteOSplash) {
-    const std::string arquivo = Exemplo();
-    abertura.duranteOSplash = [&] { ligacao.recebe("/P " + arquivo); };
-    Main();
-    // The frame shows early and the file opens at once; the own command line
-    // (empty) then takes the shared slot, so the tip comes up as well.
-    EXPECT_EQ(eventos,
-              (Registro{"splash carregado", "menu carregado", "atende Tramelo|Menu", "splash modal",
-                        "menu mostrado", "splash descarregado", "menu mostrado", "dica"}));
-    ASSERT_EQ(Calculos().size(), 1u);
-    EXPECT_EQ(Calculos()[0]->Caption, "água 1.trl");
-    EXPECT_EQ(FilesMRU()[0], arquivo);
-    EXPECT_EQ(modBase().ArquivoInicial, "");
-}
-
 TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
     const std::string arquivo = Exemplo();
     struct Caso {
@@ -318,162 +230,6 @@ TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
             EXPECT_EQ(caixas.mostradas[0].titulo, "/A " + arquivo);
         }
     }
-}
-
-TEST_F(ShellInicio, EstadoAnteriorNoRedimensionamento) {
-    struct Passo {
-        int estado, anterior;
-    };
-    const Passo passos[] = {{2, 2}, {1, 2}, {0, 0}, {1, 0}, {1, 0}, {2, 2}};
-    for (const Passo& p : passos) {
-        mdiMenu().WindowState = p.estado;
-        MdiMenu_Resize();
-        EXPECT_EQ(mdiMenu().EstadoAnterior, p.anterior);
-    }
-}
-
-TEST_F(ShellInicio, SaidaGuardaBarrasEstadoELugar) {
-    struct Caso {
-        bool minimizada, maximizada;
-        const char* guardado;
-    };
-    // Minimized from maximized is both at once: stored as minimized.
-    for (const Caso& c : {Caso{false, false, "0"}, Caso{true, false, "0"},
-                          Caso{false, true, "2"}, Caso{true, true, "0"}}) {
-        SCOPED_TRACE(c.guardado);
-        std::filesystem::remove_all(pasta / "config");
-        mdiMenu() = MdiMenu{};
-        MdiMenu_Load();
-        mnuExibirEtiqueta_Click(); // labels off
-        AdicionaMRU("/home/ana/a.trl");
-        AbreCalculo(false, std::string()); // nothing to save: no question
-        eventos.clear();
-        tela.lugar = {1200, 900, 9000, 6600, c.minimizada, c.maximizada};
-
-        ASSERT_TRUE(FechaPrograma());
-
-        EXPECT_TRUE(Calculos().empty());
-        EXPECT_EQ(eventos, (Registro{"lugar guardado", "outras descarregadas"}));
-        EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
-        EXPECT_EQ(LeConfig("Config", "Barra1"), "True");
-        EXPECT_EQ(LeConfig("Config", "Barra2"), "False");
-        EXPECT_EQ(LeConfig("Config", "Barra3"), "True");
-        EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState"), c.guardado);
-        EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1200");
-        EXPECT_EQ(LeConfig("Config\\Menu", "MainTop"), "900");
-        EXPECT_EQ(LeConfig("Config\\Menu", "MainWidth"), "9000");
-        EXPECT_EQ(LeConfig("Config\\Menu", "MainHeight"), "6600");
-        EXPECT_EQ(LeConfig("FilesMRU", " 1"), "/home/ana/a.trl");
-
-        // The next start: the normal window's size first, then the state.
-        mdiMenu() = MdiMenu{};
-        MdiMenu_Load();
-        EXPECT_EQ(mdiMenu().Left, 1200);
-        EXPECT_EQ(mdiMenu().Height, 6600);
-        EXPECT_EQ(mdiMenu().WindowState, c.guardado[0] == '2' ? 2 : 0);
-        EXPECT_FALSE(mdiMenu().mnuExibirEtiqueta.Checked);
-        EXPECT_TRUE(mdiMenu().mnuExibirStatusBar.Checked);
-    }
-}
-
-TEST_F(ShellInicio, SaidaCanceladaNumaPergunta) {
-    MdiMenu_Load();
-    AdicionaMRU("/home/ana/b.trl");
-    FrmCalcTramelo& f = *AbreCalculo(false, std::string());
-    f.cboTramelo.DefineListIndex(0);
-    f.cboFluido.DefineListIndex(0);
-    f.cboTomada.DefineListIndex(0);
-    f.txtTag.DefineTexto("x");
-    caixas.mostradas.clear();
-    caixas.respostas = {vbCancel};
-
-    EXPECT_FALSE(FechaPrograma());
-
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].texto, "Deseja salvar as alterações efetuadas neste Cálculo?");
-    EXPECT_EQ(Calculos().size(), 1u);
-    EXPECT_TRUE(eventos.empty());
-    // The recent files were stored before the question; bars and place weren't.
-    EXPECT_EQ(LeConfig("FilesMRU", " 1"), "/home/ana/b.trl");
-    EXPECT_EQ(LeConfig("Config", "Barra0"), "");
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "");
-
-    // A session that ends letting nobody ask stores bars and place all the
-    // same, asks nothing and unloads nothing.
-    tela.lugar = {1200, 900, 9000, 6600, false, true};
-    GuardaSessao();
-    EXPECT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(Calculos().size(), 1u);
-    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState"), "2");
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1200");
-
-    caixas.respostas = {vbNo};
-    EXPECT_TRUE(FechaPrograma());
-    EXPECT_TRUE(Calculos().empty());
-    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
-}
-
-TEST_F(ShellInicio, Splash) {
-    FrmAbertura f;
-    FrmAbertura_Load(f);
-    EXPECT_TRUE(f.Carregado);
-    EXPECT_EQ(f.lblVersion, "Versão 2.0.1");
-    EXPECT_EQ(f.lblProductName[0], "Tramelo");
-    EXPECT_EQ(f.lblProductName[1], "Tramelo");
-    EXPECT_EQ(f.lblPlatform, "for Linux");
-    EXPECT_EQ(f.tmrLogin.Interval, 2000);
-    EXPECT_TRUE(f.tmrLogin.Enabled); // counting from the load
-    tmrLogin_Timer(f);
-    EXPECT_FALSE(f.tmrLogin.Enabled);
-    EXPECT_FALSE(f.Carregado);
-    EXPECT_EQ(eventos, (Registro{"splash carregado", "splash descarregado"}));
-
-    FrmAbertura_LinkExecute("/P x.trl"); // copies, nothing more
-    EXPECT_EQ(modBase().ArquivoInicial, "/P x.trl");
-}
-
-TEST_F(ShellInicio, Sobre) {
-    FrmSobre f;
-    EXPECT_FALSE(f.Enabled);
-    FrmSobre_Load(f);
-    EXPECT_TRUE(f.Enabled);
-    EXPECT_EQ(sistema.ponteiro, vbDefault);
-    EXPECT_EQ(f.Caption, "Sobre o Tramelo");
-    EXPECT_EQ(f.lblTitulo, "Tramelo");
-    EXPECT_EQ(f.lblVersao, "Versão 2.0 - Revisão 1");
-    EXPECT_EQ(f.lblWindows, "for Linux");
-    EXPECT_FALSE(f.lblAviso.empty());
-    EXPECT_EQ(f.lblLink[0].Caption, "E-mail: suporte@quillon.com.br");
-    EXPECT_EQ(f.picPosLink[1].Top, f.lblLink[1].Top); // the box moved over its link
-
-    // Underlined only strictly inside: the edges don't count.
-    const std::array<Retangulo, 2> caixasLink{{{100, 200, 300, 214}, {100, 220, 300, 234}}};
-    struct Caso {
-        Ponto cursor;
-        bool link0, link1;
-    };
-    const Caso casos[] = {
-        {{150, 207}, true, false},  {{150, 227}, false, true},  {{101, 201}, true, false},
-        {{100, 207}, false, false}, {{300, 207}, false, false}, {{150, 200}, false, false},
-        {{150, 214}, false, false}, {{299, 233}, false, true},  {{0, 0}, false, false},
-    };
-    for (const Caso& c : casos) {
-        tmrSublinha_Timer(f, c.cursor, caixasLink);
-        EXPECT_EQ(f.lblLink[0].Underline, c.link0) << c.cursor.x << "," << c.cursor.y;
-        EXPECT_EQ(f.lblLink[1].Underline, c.link1) << c.cursor.x << "," << c.cursor.y;
-    }
-
-    sistema.abre = false; // a link that opens nothing says nothing
-    lblLink_Click(f, 0);
-    lblLink_Click(f, 1);
-    lblLink_Click(f, 2);
-    EXPECT_EQ(sistema.abertos,
-              (std::vector<std::string>{"mailto:suporte@quillon.com.br?Subject=Sobre o Tramelo",
-                                        "https://www.quillon.com.br"}));
-    EXPECT_TRUE(caixas.mostradas.empty());
-    cmdOK_Click(f);
-    EXPECT_FALSE(f.Carregado);
 }
 
 } // namespace

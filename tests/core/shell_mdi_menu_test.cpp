@@ -1,4 +1,4 @@
-// The frame's toggles, its load and unload with the settings, close-all.
+// The frame: its load and unload with the settings, and its Atualiza.
 #include "caixas_roteiro.h"
 #include "pasta_temporaria.h"
 
@@ -33,34 +33,6 @@ protected:
     CaixasRoteiro caixas;
 };
 
-TEST_F(ShellMdiMenu, BandasEEtiquetas) {
-    MdiMenu& m = mdiMenu();
-    mnuExibirBarraPadrao_Click(); // one band left: the coolbar stays
-    EXPECT_TRUE(m.cobBarra.Visible);
-    EXPECT_FALSE(m.cobBarra.Bands(1).Visible);
-    EXPECT_FALSE(m.mnuExibirBarraPadrao.Checked);
-    mnuExibirBarraCalculo_Click(); // the last one: the coolbar goes
-    EXPECT_FALSE(m.cobBarra.Visible);
-    mnuExibirBarraPadrao_Click(); // back with only that band
-    EXPECT_TRUE(m.cobBarra.Visible);
-    EXPECT_TRUE(m.cobBarra.Bands(1).Visible);
-    EXPECT_FALSE(m.cobBarra.Bands(2).Visible);
-
-    // Labels off: no words, and the bands take 1600 and 1500 twips.
-    FrmCalcTramelo& f = *AbreCalculo(false, std::string());
-    mnuExibirEtiqueta_Click();
-    EXPECT_EQ(m.tbPadrao.Botao("Novo")->Caption, "");
-    EXPECT_EQ(m.tbCalculo.Botao("Calcular")->Caption, "");
-    EXPECT_EQ(m.cobBarra.Bands(1).Width, 1600);
-    EXPECT_EQ(m.cobBarra.Bands(2).MinWidth, 1500);
-    EXPECT_FALSE(f.mnuExibirEtiqueta.Checked); // the active child's copy follows
-    mnuExibirEtiqueta_Click();
-    EXPECT_EQ(m.tbPadrao.Botao("Novo")->Caption, "Novo");
-    mnuExibirStatusBar_Click();
-    EXPECT_FALSE(m.sbStatusBar.Visible);
-    EXPECT_FALSE(f.mnuExibirStatusBar.Checked);
-}
-
 TEST_F(ShellMdiMenu, CargaEDescargaComAsConfiguracoes) {
     GravaConfig("Config", "Barra1", "False");
     GravaConfig("Config", "Barra2", "false"); // only the exact text hides
@@ -86,26 +58,39 @@ TEST_F(ShellMdiMenu, CargaEDescargaComAsConfiguracoes) {
     EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1500");
 }
 
-TEST_F(ShellMdiMenu, FecharTodosPerguntaAteFechar) {
-    FrmCalcTramelo& a = *AbreCalculo(false, std::string());
-    AbreCalculo(false, std::string());
-    a.cboTramelo.DefineListIndex(0);
-    caixas.textos = {""};
-    a.cboFluido.DefineListIndex(0);
-    a.cboTomada.DefineListIndex(0);
-    caixas.mostradas.clear();
-    // Cancel once: asked again, until the answer lets it go.
-    caixas.respostas = {vbCancel, vbNo};
-    mnuArquivoFecharTodos_Click();
-    EXPECT_TRUE(Calculos().empty());
-    EXPECT_EQ(caixas.mostradas.size(), 2u);
-    EXPECT_TRUE(mdiMenu().Enabled);
+TEST_F(ShellMdiMenu, BandasEImprimirSemRelatorio) {
+    MdiMenu& m = mdiMenu();
+    mnuExibirBarraPadrao_Click(); // one band left: the coolbar stays
+    EXPECT_TRUE(m.cobBarra.Visible);
+    EXPECT_FALSE(m.cobBarra.Bands(1).Visible || m.mnuExibirBarraPadrao.Checked);
+    EXPECT_TRUE(m.cobBarra.Bands(2).Visible);
+    mnuExibirBarraCalculo_Click(); // the last one: the coolbar goes
+    EXPECT_FALSE(m.cobBarra.Visible || m.mnuExibirBarraCalculo.Checked);
 
-    mnuAjudaConteudo_Click();
-    EXPECT_EQ(caixas.mostradas.back().texto,
-              "Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de Ajuda associado à "
-              "este projeto.");
-    EXPECT_EQ(caixas.mostradas.back().titulo, "Tramelo");
+    // "Imprimir" on either bar with no report active does nothing.
+    int impressos = 0;
+    ImprimeRelatorio = [&](FrmRelatorio&) { ++impressos; };
+    tbPadrao_ButtonClick("Imprimir");
+    tbCalculo_ButtonClick("Imprimir");
+    ImprimeRelatorio = nullptr;
+    EXPECT_EQ(impressos, 0);
+}
+
+// Atualiza resets the frame's caption and refreshes the recent files when it can.
+TEST(ShellMdiMenuAtualiza, LegendaERecentes) {
+    MdiMenu& m = mdiMenu();
+    m = MdiMenu{};
+    m.Caption = "Tramelo - [Cálculo 1]";
+    int chamadas = 0;
+    AtualizaMRUDoMenu = [&](MdiMenu& quem) {
+        EXPECT_EQ(&quem, &mdiMenu());
+        ++chamadas;
+    };
+    Atualiza(m);
+    AtualizaMRUDoMenu = nullptr;
+    Atualiza(m);
+    EXPECT_EQ(m.Caption, "Tramelo");
+    EXPECT_EQ(chamadas, 1);
 }
 
 } // namespace

@@ -18,13 +18,19 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace tramelo::teste {
 namespace {
 
 TEST(Instancia, SegundaPartidaAbreOArquivoNaPrimeira) {
+    // The second start is a copy of the program in a folder of its own, which
+    // keeps its data beside it; the first is this process.
     PastaTemporaria pasta;
-    qputenv("XDG_DATA_HOME", pasta.str().c_str());
-    qputenv("XDG_CONFIG_HOME", pasta.str().c_str());
+    std::filesystem::create_directory(pasta / "primeira");
+    std::filesystem::create_directory(pasta / "segunda");
+    const std::string copia = pasta / "segunda/Tramelo";
+    std::filesystem::copy_file(TRAMELO_PROGRAMA, copia);
     canal1().Reinicia();
     CaixasRoteiro caixas;
     DialogosRoteiro dialogos;
@@ -37,6 +43,7 @@ TEST(Instancia, SegundaPartidaAbreOArquivoNaPrimeira) {
         ligacaoInstancias() = &ligacao;
         const char* argv[] = {"Tramelo", agua.c_str()};
         DefineLinhaComando(2, argv);
+        PastaExecutavel() = pasta / "primeira";
         ASSERT_TRUE(programa.Inicia());
         ASSERT_EQ(Calculos().size(), 1u);
         EXPECT_EQ(Calculos()[0]->Caption, "agua.trl");
@@ -48,7 +55,7 @@ TEST(Instancia, SegundaPartidaAbreOArquivoNaPrimeira) {
         segunda.setProcessEnvironment(ambienteProcesso);
         QElapsedTimer relogio;
         relogio.start();
-        segunda.start(QStringLiteral(TRAMELO_PROGRAMA), {QString::fromStdString(vapor)});
+        segunda.start(QString::fromStdString(copia), {QString::fromStdString(vapor)});
         while (segunda.state() != QProcess::NotRunning && relogio.elapsed() < 20000)
             QApplication::processEvents(QEventLoop::AllEvents, 20);
         EXPECT_EQ(segunda.exitCode(), 0);

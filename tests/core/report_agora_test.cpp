@@ -1,4 +1,4 @@
-// The header texts of a report and the lines of its export.
+// The header text the report's clock button writes.
 #include "caixas_roteiro.h"
 #include "plataforma/ambiente.h"
 #include "report/agora.h"
@@ -32,29 +32,6 @@ TEST(ReportAgora, HoraEDataDoBotao) {
     EXPECT_EQ(r.txtData, "23:59 - sábado, 6 de março de 2027");
     EXPECT_EQ(DataCurta(relogio.m), "06/03/2027");
     ambiente().relogio = anterior;
-}
-
-TEST(ReportExportacao, LinhasNaOrdemDoArquivo) {
-    FrmRelatorio r;
-    r.txtData = "07:05 - segunda-feira, 23 de novembro de 2026";
-    r.txtOS = "OS-17";
-    r.txtCliente = "";
-    std::vector<std::string> vazio = LinhasExportacao(r);
-    ASSERT_EQ(vazio.size(), 7u);
-    EXPECT_EQ(vazio[0], std::string(33, '=') + " Data Sheet " + std::string(33, '='));
-    EXPECT_EQ(vazio[0].size(), 78u);
-    EXPECT_EQ(vazio[1], "");
-    EXPECT_EQ(vazio[2], "Hora - data......: 07:05 - segunda-feira, 23 de novembro de 2026");
-    EXPECT_EQ(vazio[4], "Ordem de serviço.: OS-17");
-    EXPECT_EQ(vazio[5], "Cliente..........: ");
-    EXPECT_EQ(vazio[6], std::string(78, '='));
-
-    AddRel(r, "");
-    AddRel(r, "Beta = d/D");
-    std::vector<std::string> linhas = LinhasExportacao(r);
-    ASSERT_EQ(linhas.size(), 9u);
-    EXPECT_EQ(linhas[6], "");
-    EXPECT_EQ(linhas[7], "Beta = d/D");
 }
 
 } // namespace
