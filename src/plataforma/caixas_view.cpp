@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -74,7 +75,12 @@ int CaixasQt::MsgBox(const std::string& texto, int estilo, const std::string& ti
     caixa.setDefaultButton(static_cast<QPushButton*>(criados.front()));
     if ((estilo & 7) == vbOKOnly || (estilo & 7) == vbOKCancel || (estilo & 7) == vbYesNoCancel)
         caixa.setEscapeButton(criados.back());
+    // The window that was active gets the activation back when the box
+    // closes: not every window manager hands it back by itself, and a
+    // calculator or a field left without the keys is lost to the keyboard.
+    QPointer<QWidget> antes = QApplication::activeWindow();
     caixa.exec();
+    if (antes && antes->isVisible()) antes->activateWindow();
     QAbstractButton* clicado = caixa.clickedButton();
     for (size_t i = 0; i < criados.size(); ++i)
         if (criados[i] == clicado) return botoes[i].resposta;

@@ -401,7 +401,7 @@ QMenu* MdiMenuView::MenuBarras() {
         QAction* a = menu->addAction(Q(item.Caption));
         a->setCheckable(true);
         a->setChecked(item.Checked);
-        connect(a, &QAction::triggered, this, [this, acao] { Acao(acao); });
+        connect(a, &QAction::triggered, this, [this, acao] { Acao(acao); }, Qt::QueuedConnection);
     };
     marca(m.mnuExibirBarraPadrao, &mnuExibirBarraPadrao_Click);
     marca(m.mnuExibirBarraCalculo, &mnuExibirBarraCalculo_Click);
@@ -438,7 +438,12 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
         QAction* a = menu->addAction(texto);
         a->setEnabled(habilitado);
         if (!tecla.isEmpty()) a->setShortcut(tecla);
-        if (acao) connect(a, &QAction::triggered, this, [this, acao] { Acao(acao); });
+        // Run once the menu has closed: an action that shows a box would
+        // otherwise rebuild the menu bar under the open menu, which leaves
+        // the bar dead to the mouse and the keys.
+        if (acao)
+            connect(a, &QAction::triggered, this, [this, acao] { Acao(acao); },
+                    Qt::QueuedConnection);
         return a;
     };
     auto marcado = [&](QMenu* menu, const ItemMenu& frameItem, const ItemMenu* filhoItem,

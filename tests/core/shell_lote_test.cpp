@@ -71,7 +71,7 @@ TEST_F(ShellLote, Json) {
 }
 
 TEST_F(ShellLote, AjudaEErrosDeOpcaoEmPortugues) {
-    const std::string uso = "uso: tramelo-calc [--json] [--sim] ARQUIVO.trl...\n"
+    const std::string uso = "uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...\n"
                             "Use --help para mais informações.\n";
     struct Caso {
         std::string argumentos;
@@ -88,7 +88,9 @@ TEST_F(ShellLote, AjudaEErrosDeOpcaoEmPortugues) {
          "  -h,--help                   Mostra esta ajuda e sai\n"
          "  --json                      Saída em JSON: um objeto por arquivo\n"
          "  --sim                       Responde \"Sim\" a \"Deseja alterar o dados para cálculo?\" "
-         "(o padrão é \"Não\")\n\n",
+         "(o padrão é \"Não\")\n"
+         "  --iso                       Acrescenta a cada relatório a verificação pela ISO "
+         "5167-2:2003\n\n",
          ""},
         {"", 64, "", "tramelo-calc: falta o argumento obrigatório ARQUIVO\n" + uso},
         {"--nada -x a.trl", 64, "", "tramelo-calc: argumentos não esperados: --nada -x\n" + uso},
