@@ -304,7 +304,12 @@ void MdiMenuView::SincronizaFrame() {
     barra(tbPadrao_, m.tbPadrao, m.cobBarra.Bands(1));
     barra(tbCalculo_, m.tbCalculo, m.cobBarra.Bands(2));
     statusBar()->setVisible(m.sbStatusBar.Visible);
-    setEnabled(m.Enabled);
+    // The frame's own parts, not the window: a box or dialog shown over a
+    // busy frame is its child and must stay answerable.
+    for (QWidget* parte : {static_cast<QWidget*>(area_), static_cast<QWidget*>(menuBar()),
+                           static_cast<QWidget*>(tbPadrao_), static_cast<QWidget*>(tbCalculo_),
+                           static_cast<QWidget*>(statusBar())})
+        parte->setEnabled(m.Enabled);
 }
 
 void MdiMenuView::SincronizaTudo() {
@@ -313,13 +318,7 @@ void MdiMenuView::SincronizaTudo() {
     // records too; rebuilt once the current event is done.
     if (!menusPendentes_) {
         menusPendentes_ = true;
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                menusPendentes_ = false;
-                ConstroiMenus(tipoMenu_);
-            },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &MdiMenuView::ReconstroiMenus, Qt::QueuedConnection);
     }
     for (Par& p : pares_) {
         if (!p.inteiro()) continue;
@@ -351,6 +350,17 @@ void MdiMenuView::SincronizaTudo() {
                 area_->setActiveSubWindow(p.janelaCalculo);
         }
     }
+}
+
+void MdiMenuView::ReconstroiMenus() {
+    // Never under an open menu: the one the user is opening would be deleted
+    // in their hands. Tried again once it has closed.
+    if (QApplication::activePopupWidget()) {
+        QTimer::singleShot(200, this, &MdiMenuView::ReconstroiMenus);
+        return;
+    }
+    menusPendentes_ = false;
+    ConstroiMenus(tipoMenu_);
 }
 
 void MdiMenuView::GuardaLugar() {

@@ -75,6 +75,7 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo {
 
     void SincronizaFrame();
     void ConstroiMenus(Tipo tipo);
+    void ReconstroiMenus();
     void AoAtivar(QMdiSubWindow* janela);
     Tipo TipoDe(QMdiSubWindow* janela, FrmCalcTramelo** calculo, FrmRelatorio** relatorio) const;
     void MostraRelatorio(FrmCalcTramelo& f);
