@@ -56,7 +56,9 @@ class BotaoCalculadora : public QWidget {
         p.drawText(r, Qt::AlignCenter, texto_);
     }
     void mousePressEvent(QMouseEvent* e) override {
-        if (e->button() == Qt::LeftButton) calc_->Pressiona(tecla_);
+        if (e->button() != Qt::LeftButton) return;
+        calc_->voltando_ = false;
+        calc_->Pressiona(tecla_);
     }
     void mouseReleaseEvent(QMouseEvent* e) override {
         if (e->button() != Qt::LeftButton) return;
@@ -180,25 +182,22 @@ void CalculadoraView::Executa(int tecla) {
     voltando_ = true;
     raise();
     activateWindow();
-    PedeAtivacao(6);
+    PedeAtivacao(10);
 }
 
 void CalculadoraView::PedeAtivacao(int vezes) {
-    // Asked again every half second on a busy desktop; after that, a window
-    // that still hasn't the activation counts as left by the user.
+    // Asked again every half second on a busy desktop, the focus may bounce
+    // through the main window meanwhile; the user's next key or click here
+    // ends the wait. Past it, a window without the activation counts as left.
     QTimer::singleShot(500, this, [this, vezes] {
-        if (!voltando_) return;
-        if (isActiveWindow() || !isVisible() || fechando_) {
-            voltando_ = false;
-            return;
-        }
+        if (!voltando_ || !isVisible() || fechando_) return;
         if (vezes > 1) {
-            activateWindow();
+            if (!isActiveWindow()) activateWindow();
             PedeAtivacao(vezes - 1);
             return;
         }
         voltando_ = false;
-        Fecha();
+        if (!isActiveWindow()) Fecha();
     });
 }
 
@@ -301,6 +300,7 @@ void CalculadoraView::keyPressEvent(QKeyEvent* e) {
     const int t = TeclaDe(e);
     if (t < 0 || e->isAutoRepeat()) return;
     teclaPressionada_ = t;
+    voltando_ = false;
     Pressiona(t);
 }
 
