@@ -29,7 +29,7 @@ export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1"
 cmake -S . -B build-san -DCMAKE_BUILD_TYPE=Debug -DTRAMELO_SANITIZE=ON -DTRAMELO_BENCH=OFF \
       -DCMAKE_COMPILE_WARNING_AS_ERROR=ON "${lancador[@]}" > /dev/null
 cmake --build build-san -j "$jobs" --target tramelo_core_tests tramelo_gui_tests Tramelo \
-      tramelo-calc tramelo-aleatorio
+      tramelo-calc tramelo-aleatorio tramelo_jornadas
 QT_QPA_PLATFORM=offscreen ctest --test-dir build-san --output-on-failure -j "$jobs" \
       -LE 'jornada|pacote'
 echo "== sanitizer build and tests: $((SECONDS - inicio)) s"
