@@ -2,6 +2,7 @@
 
 #include "calculator/lugar.h"
 #include "document/frm_calc_tramelo.h"
+#include "plataforma/caixas_view.h"
 #include "shell/mod_base.h"
 
 #include <QApplication>
@@ -172,9 +173,13 @@ void CalculadoraView::Executa(int tecla) {
     QPointer<CalculadoraView> vivo(this);
     emHandler_ = true;
     caixaNoHandler_ = false;
+    const int caixas = CaixasQt::Mostradas();
     ExecutaHandler(tecla);
     if (!vivo) return;
     emHandler_ = false;
+    // The box's focus events may come late on a busy desktop; the count of
+    // boxes doesn't.
+    if (CaixasQt::Mostradas() != caixas) caixaNoHandler_ = true;
     if (!caixaNoHandler_ || !isVisible() || fechando_) return;
     // The division by zero's box had the activation, and the window manager
     // may hand it back to the main window rather than here: take it back, and

@@ -24,7 +24,16 @@ QWidget* Dono(QWidget* dono) {
 
 } // namespace
 
+namespace {
+int caixasMostradas = 0;
+} // namespace
+
+int CaixasQt::Mostradas() {
+    return caixasMostradas;
+}
+
 int CaixasQt::MsgBox(const std::string& texto, int estilo, const std::string& titulo) {
+    ++caixasMostradas;
     QMessageBox caixa(Dono(dono_));
     caixa.setWindowTitle(Q(titulo.empty() ? std::string(TituloPrograma) : titulo));
     caixa.setText(Q(texto));
@@ -90,6 +99,7 @@ int CaixasQt::MsgBox(const std::string& texto, int estilo, const std::string& ti
 
 std::string CaixasQt::InputBox(const std::string& prompt, const std::string& titulo,
                                const std::string& padrao) {
+    ++caixasMostradas;
     QDialog dialogo(Dono(dono_));
     dialogo.setWindowTitle(Q(titulo.empty() ? std::string(TituloPrograma) : titulo));
     auto* layout = new QVBoxLayout(&dialogo);

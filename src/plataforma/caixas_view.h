@@ -16,6 +16,9 @@ class CaixasQt : public Caixas {
     int MsgBox(const std::string& texto, int estilo, const std::string& titulo) override;
     std::string InputBox(const std::string& prompt, const std::string& titulo,
                          const std::string& padrao) override;
+    // How many boxes have been shown so far: a window can tell that one of
+    // its handlers showed one, whatever order the focus events come in.
+    static int Mostradas();
 
   private:
     QWidget* dono_;
