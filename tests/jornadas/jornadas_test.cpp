@@ -15,6 +15,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string Le(const std::string& arquivo) {
+    std::ifstream f(arquivo, std::ios::binary);
+    std::stringstream s;
+    s << f.rdbuf();
+    return s.str();
+}
+
 
 class Jornada : public ::testing::Test {
   protected:
@@ -163,10 +170,8 @@ TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
     ASSERT_TRUE(x.EsperaSumir("frame", "agua.trl", 5000));
     const std::string salvo = x.Caminho("bin/Saves/agua.trl");
     ASSERT_TRUE(fs::exists(salvo));
-    std::ifstream f(salvo);
-    std::stringstream conteudo;
-    conteudo << f.rdbuf();
-    EXPECT_NE(conteudo.str().find("\"60\""), std::string::npos) << conteudo.str();
+    const std::string conteudo = Le(salvo);
+    EXPECT_NE(conteudo.find("\"60\""), std::string::npos) << conteudo;
 
     // Another calculation, changed and closed with "Não": its file as it was.
     const std::string vapor = Exemplo("vapor.trl");
@@ -181,11 +186,7 @@ TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
     ASSERT_TRUE(x.Espera("label", pergunta, 5000));
     Botao("Não");
     ASSERT_TRUE(x.EsperaSumir("frame", "vapor.trl", 5000));
-    std::ifstream antes(std::string(TRAMELO_EXEMPLOS) + "/vapor.trl"), depois(vapor);
-    std::stringstream a, d;
-    a << antes.rdbuf();
-    d << depois.rdbuf();
-    EXPECT_EQ(d.str(), a.str());
+    EXPECT_EQ(Le(vapor), Le(std::string(TRAMELO_EXEMPLOS) + "/vapor.trl"));
     EXPECT_FALSE(fs::exists(x.Caminho("bin/Saves/vapor.trl")));
     EXPECT_TRUE(x.Vivo());
 }
@@ -266,10 +267,7 @@ TEST_F(Jornada, ImprimeEmPdfEExporta) {
     Botao("Exportar");
     DialogoDeArquivo("Exportar relatório", txt);
     ASSERT_TRUE(fs::exists(txt));
-    std::ifstream e(txt);
-    std::stringstream exportado;
-    exportado << e.rdbuf();
-    EXPECT_NE(exportado.str().find("FT-2301"), std::string::npos); // written in Windows-1252
+    EXPECT_NE(Le(txt).find("FT-2301"), std::string::npos); // written in Windows-1252
 
     const std::string pdf = x.Caminho("arquivos/folha.pdf");
     Botao("Imprimir");
