@@ -58,7 +58,7 @@ class BotaoCalculadora : public QWidget {
     }
     void mousePressEvent(QMouseEvent* e) override {
         if (e->button() != Qt::LeftButton) return;
-        calc_->voltando_ = false;
+        if (calc_->voltando_) calc_->TerminaVolta();
         calc_->Pressiona(tecla_);
     }
     void mouseReleaseEvent(QMouseEvent* e) override {
@@ -138,6 +138,7 @@ CalculadoraView::CalculadoraView(QWidget* dono)
 }
 
 CalculadoraView::~CalculadoraView() {
+    qApp->removeEventFilter(this);
     if (Unica() == this) Unica() = nullptr;
 }
 
@@ -181,19 +182,46 @@ void CalculadoraView::Executa(int tecla) {
     // boxes doesn't.
     if (CaixasQt::Mostradas() != caixas) caixaNoHandler_ = true;
     if (!caixaNoHandler_ || !isVisible() || fechando_) return;
-    // The division by zero's box had the activation, and the window manager
-    // may hand it back to the main window rather than here: take it back, and
-    // leave the deactivation rule aside until it has come.
+    // The division by zero's box had the activation. The window manager hands
+    // it on when the box goes, often to the main window and sometimes after
+    // this window had it back: take it back each time, until the user's next
+    // key or click says where they are.
     voltando_ = true;
+    qApp->installEventFilter(this);
     raise();
     activateWindow();
     PedeAtivacao(10);
 }
 
+bool CalculadoraView::eventFilter(QObject* alvo, QEvent* e) {
+    const bool usuario = e->type() == QEvent::MouseButtonPress || e->type() == QEvent::KeyPress;
+    if (voltando_ && usuario && e->spontaneous()) {
+        auto* w = qobject_cast<QWidget*>(alvo);
+        if (w && w->window() != this) TerminaVolta();
+    }
+    return QWidget::eventFilter(alvo, e);
+}
+
+void CalculadoraView::TerminaVolta() {
+    voltando_ = false;
+    qApp->removeEventFilter(this);
+    // Past the wait, a window without the activation counts as left.
+    QMetaObject::invokeMethod(this, [this] { DecideSaida(); }, Qt::QueuedConnection);
+}
+
+void CalculadoraView::DecideSaida() {
+    if (!isVisible() || fechando_ || isActiveWindow()) return;
+    if (voltando_) {
+        raise();
+        activateWindow();
+    } else {
+        Fecha();
+    }
+}
+
 void CalculadoraView::PedeAtivacao(int vezes) {
-    // Asked again every half second on a busy desktop, the focus may bounce
-    // through the main window meanwhile; the user's next key or click here
-    // ends the wait. Past it, a window without the activation counts as left.
+    // A request the window manager dropped is made again every half second;
+    // the wait ends after `vezes` of them at most.
     QTimer::singleShot(500, this, [this, vezes] {
         if (!voltando_ || !isVisible() || fechando_) return;
         if (vezes > 1) {
@@ -201,8 +229,7 @@ void CalculadoraView::PedeAtivacao(int vezes) {
             PedeAtivacao(vezes - 1);
             return;
         }
-        voltando_ = false;
-        if (!isActiveWindow()) Fecha();
+        TerminaVolta();
     });
 }
 
@@ -305,7 +332,7 @@ void CalculadoraView::keyPressEvent(QKeyEvent* e) {
     const int t = TeclaDe(e);
     if (t < 0 || e->isAutoRepeat()) return;
     teclaPressionada_ = t;
-    voltando_ = false;
+    if (voltando_) TerminaVolta();
     Pressiona(t);
 }
 
@@ -323,19 +350,19 @@ void CalculadoraView::keyReleaseEvent(QKeyEvent* e) {
 
 void CalculadoraView::changeEvent(QEvent* e) {
     // Losing the activation is the only cancel: it closes, writing nothing.
-    if (e->type() == QEvent::ActivationChange && isActiveWindow()) voltando_ = false;
     if (e->type() == QEvent::ActivationChange && !isActiveWindow() && emHandler_)
         caixaNoHandler_ = true;
     if (e->type() == QEvent::ActivationChange && !isActiveWindow() && isVisible() && !fechando_ &&
-        !emHandler_ && !voltando_) {
+        !emHandler_) {
         // Decided once the event is done: an activation that only passed
-        // through another window and came back is no cancel.
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                if (isVisible() && !fechando_ && !voltando_ && !isActiveWindow()) Fecha();
-            },
-            Qt::QueuedConnection);
+        // through another window and came back is no cancel. While waiting
+        // after the box, decided a little later: a click elsewhere moves the
+        // activation before the click itself arrives, and must end the wait
+        // rather than be fought.
+        if (voltando_)
+            QTimer::singleShot(200, this, [this] { DecideSaida(); });
+        else
+            QMetaObject::invokeMethod(this, [this] { DecideSaida(); }, Qt::QueuedConnection);
     }
     QWidget::changeEvent(e);
 }

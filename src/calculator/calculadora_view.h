@@ -43,6 +43,7 @@ class CalculadoraView : public QWidget {
     void keyPressEvent(QKeyEvent* e) override;
     void keyReleaseEvent(QKeyEvent* e) override;
     void changeEvent(QEvent* e) override;
+    bool eventFilter(QObject* alvo, QEvent* e) override;
 
   private:
     friend class BotaoCalculadora;
@@ -53,6 +54,10 @@ class CalculadoraView : public QWidget {
     void Executa(int tecla);
     void ExecutaHandler(int tecla);
     void PedeAtivacao(int vezes);
+    void TerminaVolta();
+    // Without the activation: asks it back while waiting after the box,
+    // closes otherwise.
+    void DecideSaida();
     void Botao(BotaoCalculadora* imagem, int face);
     void Mostra();
 
@@ -76,7 +81,9 @@ class CalculadoraView : public QWidget {
     // activation, and that isn't the user leaving the calculator.
     bool emHandler_ = false;
     bool caixaNoHandler_ = false; // the handler's box took the activation
-    bool voltando_ = false;       // asked the activation back after that box
+    // Asking the activation back after that box, until the user's next key or
+    // click or five seconds; meanwhile the application's events pass here.
+    bool voltando_ = false;
     int teclaPressionada_ = -1; // the key whose press this window received
 };
 

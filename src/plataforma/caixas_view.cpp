@@ -17,9 +17,12 @@ QString Q(const std::string& s) {
     return QString::fromStdString(s);
 }
 
+// A box belongs to the window the user is in: it stands over it, and Qt gives
+// that window the activation back when the box goes.
 QWidget* Dono(QWidget* dono) {
     if (QWidget* ativo = QApplication::activeModalWidget()) return ativo;
-    return dono ? dono : QApplication::activeWindow();
+    if (QWidget* ativo = QApplication::activeWindow()) return ativo;
+    return dono;
 }
 
 } // namespace

@@ -110,6 +110,12 @@ TEST_F(Jornada, RelatorioFechadoPelaBarraDeTituloVoltaComCalcular) {
 // and the calculator goes on with the operand; "=" then writes the result.
 // Opened by a double click, by the toolbar button and by Enter on the field.
 TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
+    auto CalculadoraAtiva = [this] {
+        for (int vez = 0; vez < 30; ++vez, x.Pausa(100))
+            for (const No& n : x.Arvore())
+                if (n.nome == "Calculadora" && n.ativo) return true;
+        return false;
+    };
     ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
     auto campo = x.Espera("text", "Vazão de projeto", 5000);
     ASSERT_TRUE(campo);
@@ -133,6 +139,8 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
         x.Tecla("Return");
         ASSERT_TRUE(x.EsperaSumir("label", "Não é possível dividir por zero", 5000));
         ASSERT_TRUE(x.Espera("label", operando, 3000)) << "the calculator went away";
+        // A person types once the calculator has the keys again.
+        ASSERT_TRUE(CalculadoraAtiva()) << "the calculator didn't get the keys back";
         x.Tecla("2 KP_Enter");
         ASSERT_TRUE(x.EsperaSumir("label", operando, 5000));
         valor += 2;
@@ -141,6 +149,16 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
         EXPECT_EQ(depois->texto, std::to_string(valor));
         ASSERT_TRUE(x.Vivo());
     }
+    // After the box, a click on the calculation is a cancel like any other.
+    x.DuploClique(campo->cx(), campo->cy());
+    ASSERT_TRUE(x.Espera("label", "56,", 5000));
+    x.Tecla("KP_Divide 0 KP_Add");
+    ASSERT_TRUE(x.Espera("label", "Não é possível dividir por zero", 5000));
+    x.Tecla("Return");
+    ASSERT_TRUE(x.EsperaSumir("label", "Não é possível dividir por zero", 5000));
+    ASSERT_TRUE(CalculadoraAtiva());
+    x.Clica(campo->x - 20, campo->cy());
+    EXPECT_TRUE(x.EsperaSumir("label", "56,", 5000));
     // The field's text, read back as a person would: copied.
     x.Clica(campo->cx(), campo->cy());
     x.Tecla("ctrl+a ctrl+c");
