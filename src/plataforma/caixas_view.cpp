@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -17,12 +18,16 @@ QString Q(const std::string& s) {
     return QString::fromStdString(s);
 }
 
-// A box belongs to the window the user is in: it stands over it, and Qt gives
-// that window the activation back when the box goes.
+// A box lives on the stack of the code that shows it, so its parent must
+// outlive it: the main window, never a calculator or a table that may close
+// (and delete its children) while the box is open. A modal dialog can't
+// close under its box, and keeps the box over it.
 QWidget* Dono(QWidget* dono) {
     if (QWidget* ativo = QApplication::activeModalWidget()) return ativo;
-    if (QWidget* ativo = QApplication::activeWindow()) return ativo;
-    return dono;
+    if (dono) return dono;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow*>(w) && w->isVisible()) return w;
+    return nullptr;
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 #include "shell/mod_base.h"
 #include "shell/recentes.h"
 
+#include <QPointer>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -168,6 +169,9 @@ QMdiSubWindow* MdiMenuView::AdicionaFilho(QWidget* filho) {
     QMdiSubWindow* j = area_->addSubWindow(filho);
     j->setAttribute(Qt::WA_DeleteOnClose);
     j->show();
+    // A window just opened is the one in front: an inactive one takes its
+    // first click on the title bar for the activation and drops the button.
+    area_->setActiveSubWindow(j);
     return j;
 }
 
@@ -428,7 +432,14 @@ void MdiMenuView::PreencheJanela(QMenu* menu) {
         QAction* a = menu->addAction(QStringLiteral("&%1 %2").arg(n).arg(j->windowTitle()));
         a->setCheckable(true);
         a->setChecked(j == area_->activeSubWindow());
-        connect(a, &QAction::triggered, this, [this, j] { area_->setActiveSubWindow(j); });
+        // Chosen from the list, a minimised window comes back, as a person
+        // who picks it means to see it.
+        QPointer<QMdiSubWindow> alvo(j);
+        connect(a, &QAction::triggered, this, [this, alvo] {
+            if (!alvo) return;
+            if (alvo->isMinimized()) alvo->showNormal();
+            area_->setActiveSubWindow(alvo);
+        });
     }
 }
 

@@ -59,6 +59,10 @@ void TabelaView::TabelaInicia(short Tipo) {
                                      static_cast<int>(TituloTabela(TipoTabela).size())));
 }
 
+QSize TabelaView::sizeHint() const {
+    return {Px(6735, this), Px(3870, this)};
+}
+
 void TabelaView::resizeEvent(QResizeEvent* e) {
     // The grid fills the window below its 15-twip margin.
     MSF_->resize(std::max(0, e->size().width()), std::max(0, e->size().height() - Px(15, this)));

@@ -19,6 +19,8 @@ class TabelaView : public QWidget {
 
   protected:
     void resizeEvent(QResizeEvent* e) override;
+    // The designed client area, which its MDI frame takes when it first shows.
+    QSize sizeHint() const override;
 
   private:
     QTableWidget* MSF_;

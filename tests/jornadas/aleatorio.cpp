@@ -18,41 +18,12 @@
 #include <fstream>
 #include <iostream>
 #include <random>
-#include <sstream>
 #include <string>
 
 namespace fs = std::filesystem;
 using tramelo::teste::SessaoX;
 
 namespace {
-
-struct Retangulo {
-    int x = 0, y = 0, w = 0, h = 0;
-};
-
-// The main window's place, from the window manager; empty while it isn't up.
-Retangulo JanelaPrincipal(const SessaoX& x) {
-    std::istringstream ids(x.Comando("xdotool search --onlyvisible --name '^Tramelo$' 2>/dev/null"));
-    std::string id;
-    Retangulo r;
-    while (std::getline(ids, id)) {
-        std::istringstream g(x.Comando("xdotool getwindowgeometry --shell " + id + " 2>/dev/null"));
-        std::string linha;
-        Retangulo c;
-        while (std::getline(g, linha)) {
-            const auto igual = linha.find('=');
-            if (igual == std::string::npos) continue;
-            const std::string k = linha.substr(0, igual);
-            const int v = std::atoi(linha.c_str() + igual + 1);
-            if (k == "X") c.x = v;
-            if (k == "Y") c.y = v;
-            if (k == "WIDTH") c.w = v;
-            if (k == "HEIGHT") c.h = v;
-        }
-        if (c.w * c.h > r.w * r.h) r = c;
-    }
-    return r;
-}
 
 // Every settings file of the session still reads as JSON.
 bool ConfiguracaoLegivel(const SessaoX& x, std::string& qual) {
@@ -114,9 +85,12 @@ int main(int argc, char** argv) {
         std::cout << oque << " (status " << status << ") na semente " << semente << ", evento "
                   << eventos << "; últimos eventos:\n";
         for (const std::string& e : ultimos) std::cout << "  " << e << "\n";
+        // From the sanitizer's headline when there is one, else the end.
         const std::string saida = x.Saida();
-        std::cout << "saída do programa (fim):\n"
-                  << saida.substr(saida.size() > 4000 ? saida.size() - 4000 : 0) << "\n";
+        size_t de = saida.find("ERROR: AddressSanitizer");
+        if (de == std::string::npos) de = saida.find("runtime error");
+        if (de == std::string::npos) de = saida.size() > 4000 ? saida.size() - 4000 : 0;
+        std::cout << "saída do programa:\n" << saida.substr(de, 8000) << "\n";
     };
     auto confere = [&] {
         std::string qual;
@@ -143,26 +117,21 @@ int main(int argc, char** argv) {
             continue;
         }
         ultimos.clear();
-        Retangulo r = JanelaPrincipal(x);
+        // The main window's place, from the accessibility tree.
+        tramelo::teste::No r;
         int status = -1;
         for (int n = 0; std::chrono::steady_clock::now() < fim; ++n) {
-            if (n % 25 == 0) r = JanelaPrincipal(x);
+            if (n % 25 == 0)
+                if (auto janela = x.Acha("frame", "Tramelo")) r = *janela;
             std::string evento;
             const int tipo = sorteia(100);
             const int px = r.x + 2 + sorteia(std::max(r.w - 4, 1));
             const int py = r.y + 2 + sorteia(std::max(r.h - 4, 1));
-            if (tipo < 40) {
-                evento = "clique " + std::to_string(px) + " " + std::to_string(py);
-                x.Comando("xdotool mousemove " + std::to_string(px) + " " + std::to_string(py) +
-                          " click 1");
-            } else if (tipo < 52) {
-                evento = "duplo clique " + std::to_string(px) + " " + std::to_string(py);
-                x.Comando("xdotool mousemove " + std::to_string(px) + " " + std::to_string(py) +
-                          " click --repeat 2 --delay 40 1");
-            } else if (tipo < 56) {
-                evento = "botão direito " + std::to_string(px) + " " + std::to_string(py);
-                x.Comando("xdotool mousemove " + std::to_string(px) + " " + std::to_string(py) +
-                          " click 3");
+            const std::string ponto = std::to_string(px) + " " + std::to_string(py);
+            if (tipo < 56) {
+                const char* clique = tipo < 40 ? "click 1" : tipo < 52 ? "click --repeat 2 --delay 40 1" : "click 3";
+                evento = std::string(tipo < 40 ? "clique " : tipo < 52 ? "duplo clique " : "botão direito ") + ponto;
+                x.Comando("xdotool mousemove " + ponto + " " + clique);
             } else if (tipo < 63) {
                 evento = "tecla Escape";
                 x.Comando("xdotool key Escape");

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # Prints the accessibility tree of the running Tramelo, one object a line:
 # depth, role, name, x, y, width, height, states (S showing, A active,
-# F focused) and the text of a field or label, tab-separated, in screen coordinates. Hidden subtrees are cut.
+# F focused, C checked) and the text of a field or label, tab-separated, in screen coordinates. Hidden subtrees are cut.
 import sys
 
 import pyatspi
@@ -12,7 +12,8 @@ def linha(o, nivel):
         estados = o.getState()
         mostra = estados.contains(pyatspi.STATE_SHOWING)
         flags = ("S" if mostra else "") + ("A" if estados.contains(pyatspi.STATE_ACTIVE) else "") \
-            + ("F" if estados.contains(pyatspi.STATE_FOCUSED) else "")
+            + ("F" if estados.contains(pyatspi.STATE_FOCUSED) else "") \
+            + ("C" if estados.contains(pyatspi.STATE_CHECKED) else "")
         try:
             e = o.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
             caixa = (e.x, e.y, e.width, e.height)

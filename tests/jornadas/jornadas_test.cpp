@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -53,17 +54,26 @@ class Jornada : public ::testing::Test {
         x.Clica(b->cx(), b->cy());
     }
 
-    // An entry of the menu bar, clicked where the accessibility tree puts
-    // the menu's title and then each entry.
-    void Menu(const std::string& menu, const std::vector<std::string>& caminho) {
-        auto titulo = x.Espera("menu item", menu, 5000);
-        ASSERT_TRUE(titulo) << menu;
-        x.Clica(titulo->cx(), titulo->cy());
-        for (const std::string& nome : caminho) {
+    // An entry of the menu bar by its accelerators, as the program writes them
+    // ("&Arquivo", "Salvar &como..."): Alt and the menu's letter, then each
+    // entry's letter; `depois` are keys after them (Enter where two entries
+    // share a letter and the first only gets selected). An entry without a
+    // letter is clicked.
+    void Menu(const std::vector<std::string>& caminho, const std::string& depois = "") {
+        for (size_t i = 0; i < caminho.size(); ++i) {
+            const std::string& passo = caminho[i];
+            const size_t e = passo.find('&');
+            const std::string nome = e == std::string::npos ? passo : passo.substr(0, e) + passo.substr(e + 1);
             auto item = x.Espera("menu item", nome, 5000);
             ASSERT_TRUE(item) << nome;
-            x.Clica(item->cx(), item->cy());
+            if (e == std::string::npos) {
+                x.Clica(item->cx(), item->cy());
+                continue;
+            }
+            const std::string letra(1, static_cast<char>(std::tolower(passo[e + 1])));
+            x.Tecla(i == 0 ? "alt+" + letra : letra);
         }
+        if (!depois.empty()) x.Tecla(depois);
     }
 
     // Types a file's path into the file dialog of that title and accepts it.
@@ -84,7 +94,12 @@ class Jornada : public ::testing::Test {
     }
 
     // The close button drawn in the title bar of a child window.
-    void FechaPelaBarraDeTitulo(const No& janela) { x.Clica(janela.x + janela.w - 12, janela.y + 11); }
+    // Read again just before: a table sizes itself to its grid once shown.
+    void FechaPelaBarraDeTitulo(const No& janela) {
+        x.Pausa(300);
+        const No j = x.Acha(janela.papel, janela.nome).value_or(janela);
+        x.Clica(j.x + j.w - 12, j.y + 11);
+    }
 
     SessaoX x;
 };
@@ -103,6 +118,62 @@ TEST_F(Jornada, RelatorioFechadoPelaBarraDeTituloVoltaComCalcular) {
     }
     Botao("Calcular");
     EXPECT_TRUE(x.Espera("frame", "Relatório de Cálculo - agua.trl", 5000));
+    EXPECT_TRUE(x.Vivo());
+}
+
+// The calculation and its report switched, minimised, closed and shown again
+// through the "Janela" menu, which lists them with the active one checked.
+TEST_F(Jornada, JanelasPeloMenuJanela) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    const std::string calculo = "agua.trl", relatorio = "Relatório de Cálculo - agua.trl";
+    // Opens the menu and finds a window's entry, "1 agua.trl" and so on.
+    auto Entrada = [this](const std::string& janela) -> std::optional<No> {
+        x.Tecla("alt+j");
+        for (int vez = 0; vez < 30; ++vez, x.Pausa(100))
+            for (const No& n : x.Arvore())
+                if (n.visivel && n.nome.size() > janela.size() && n.nome.substr(2) == janela &&
+                    n.nome[1] == ' ')
+                    return n;
+        return std::nullopt;
+    };
+    Botao("Calcular");
+    auto r = x.Espera("frame", relatorio, 5000);
+    ASSERT_TRUE(r);
+    auto e = Entrada(relatorio);
+    ASSERT_TRUE(e);
+    EXPECT_TRUE(e->marcado);
+    x.Tecla("Escape Escape");
+    // Switched to the calculation by its digit.
+    e = Entrada(calculo);
+    ASSERT_TRUE(e);
+    EXPECT_FALSE(e->marcado);
+    x.Tecla(std::string(1, e->nome[0]));
+    e = Entrada(calculo);
+    ASSERT_TRUE(e);
+    EXPECT_TRUE(e->marcado);
+    x.Tecla("Escape Escape");
+    // The report minimised by its title bar, and brought back by the menu.
+    x.Clica(r->x + r->w - 32, r->y + 11);
+    x.Pausa(500);
+    auto minimizado = x.Espera("frame", relatorio, 3000);
+    ASSERT_TRUE(minimizado);
+    EXPECT_LT(minimizado->h, r->h / 2);
+    e = Entrada(relatorio);
+    ASSERT_TRUE(e);
+    x.Tecla(std::string(1, e->nome[0]));
+    x.Pausa(500);
+    auto devolvido = x.Espera("frame", relatorio, 3000);
+    ASSERT_TRUE(devolvido);
+    EXPECT_EQ(devolvido->h, r->h);
+    // Closed by its title bar, it leaves the menu; "Calcular" shows it again.
+    FechaPelaBarraDeTitulo(*devolvido);
+    ASSERT_TRUE(x.EsperaSumir("frame", relatorio, 5000));
+    EXPECT_FALSE(Entrada(relatorio));
+    x.Tecla("Escape Escape");
+    Botao("Calcular");
+    EXPECT_TRUE(x.Espera("frame", relatorio, 5000));
+    EXPECT_TRUE(Entrada(relatorio));
+    x.Tecla("Escape Escape");
     EXPECT_TRUE(x.Vivo());
 }
 
@@ -159,6 +230,16 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
     ASSERT_TRUE(CalculadoraAtiva());
     x.Clica(campo->x - 20, campo->cy());
     EXPECT_TRUE(x.EsperaSumir("label", "56,", 5000));
+    // F1 there: the help's box takes the activation, the calculator closes
+    // under it, and the box, then the program, go on.
+    x.DuploClique(campo->cx(), campo->cy());
+    ASSERT_TRUE(x.Espera("label", "56,", 5000));
+    x.Tecla("F1");
+    ASSERT_TRUE(x.Espera("push button", "OK", 5000));
+    EXPECT_TRUE(x.EsperaSumir("label", "56,", 5000));
+    x.Tecla("Return");
+    ASSERT_TRUE(x.EsperaSumir("push button", "OK", 5000));
+    ASSERT_TRUE(x.Vivo()) << x.Saida();
     // The field's text, read back as a person would: copied.
     x.Clica(campo->cx(), campo->cy());
     x.Tecla("ctrl+a ctrl+c");
@@ -175,16 +256,16 @@ TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
     x.Clica(campo->cx(), campo->cy());
     x.Tecla("ctrl+a");
     x.Digita("60");
-    Menu("Arquivo", {"Fechar todos"});
+    Menu({"&Arquivo", "Fechar &todos"}, "Return");
     ASSERT_TRUE(x.Espera("label", pergunta, 5000));
     // "Cancelar" keeps it, and closing all comes back to it and asks again.
-    Botao("Cancelar");
+    x.Tecla("Escape");
     x.Pausa(500);
     ASSERT_TRUE(x.Espera("label", pergunta, 5000));
     ASSERT_TRUE(x.Acha("frame", "agua.trl"));
 
     // "Sim" saves the calculation where its name puts it, the program's Saves.
-    Botao("Sim");
+    x.Tecla("alt+s");
     ASSERT_TRUE(x.EsperaSumir("frame", "agua.trl", 5000));
     const std::string salvo = x.Caminho("bin/Saves/agua.trl");
     ASSERT_TRUE(fs::exists(salvo));
@@ -193,16 +274,16 @@ TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
 
     // Another calculation, changed and closed with "Não": its file as it was.
     const std::string vapor = Exemplo("vapor.trl");
-    Menu("Arquivo", {"Abrir"});
+    Menu({"&Arquivo", "&Abrir"});
     DialogoDeArquivo("Abrir Tramelo", vapor);
     auto vazao = x.Espera("text", "Vazão de projeto", 5000);
     ASSERT_TRUE(vazao);
     x.Clica(vazao->cx(), vazao->cy());
     x.Tecla("ctrl+a");
     x.Digita("7");
-    Menu("Arquivo", {"Fechar todos"});
+    Menu({"&Arquivo", "Fechar &todos"}, "Return");
     ASSERT_TRUE(x.Espera("label", pergunta, 5000));
-    Botao("Não");
+    x.Tecla("alt+n");
     ASSERT_TRUE(x.EsperaSumir("frame", "vapor.trl", 5000));
     EXPECT_EQ(Le(vapor), Le(std::string(TRAMELO_EXEMPLOS) + "/vapor.trl"));
     EXPECT_FALSE(fs::exists(x.Caminho("bin/Saves/vapor.trl")));
@@ -213,12 +294,12 @@ TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
 TEST_F(Jornada, SalvarComoEReabrirPelosRecentes) {
     ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
     const std::string novo = x.Caminho("arquivos/copia.trl");
-    Menu("Arquivo", {"Salvar como..."});
+    Menu({"&Arquivo", "Salvar &como..."});
     DialogoDeArquivo("Salvar Como", novo);
     ASSERT_TRUE(fs::exists(novo));
-    Menu("Arquivo", {"Fechar"});
+    Menu({"&Arquivo", "Fechar"}); // no letter of its own here
     ASSERT_TRUE(x.EsperaSumir("frame", "agua.trl", 5000));
-    Menu("Arquivo", {"Arquivos recentes"});
+    Menu({"&Arquivo", "Arquivos recentes"});
     // The newest entry comes first; the one saved under its new name.
     std::optional<No> entrada;
     for (const No& n : x.Arvore())
@@ -227,7 +308,7 @@ TEST_F(Jornada, SalvarComoEReabrirPelosRecentes) {
     x.Clica(entrada->cx(), entrada->cy());
     EXPECT_TRUE(x.Espera("frame", "copia.trl", 5000));
     // And by the open dialog, the sample again.
-    Menu("Arquivo", {"Abrir"});
+    Menu({"&Arquivo", "&Abrir"});
     DialogoDeArquivo("Abrir Tramelo", Exemplo("vapor.trl"));
     EXPECT_TRUE(x.Espera("frame", "vapor.trl", 5000));
     EXPECT_TRUE(x.Vivo());
@@ -246,23 +327,23 @@ TEST_F(Jornada, TabelasDicasOpcoesESobre) {
     setenv("PATH", (x.Caminho("bin") + ":" + std::getenv("PATH")).c_str(), 1);
     ASSERT_TRUE(x.Inicia());
     FechaDica();
-    for (const std::string tabela : {"Massa do Vapor Superaquecido", "Volume do Vapor Superaquecido"}) {
-        Menu("Ajuda", {"Documentação", tabela});
-        const std::string titulo = tabela[0] == 'M' ? "Massa específica do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)\"  " : "Volume específico do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)";
+    for (const std::string tabela : {"&Massa do Vapor Superaquecido", "&Volume do Vapor Superaquecido"}) {
+        Menu({"Aj&uda", "D&ocumentação", tabela});
+        const std::string titulo = tabela[1] == 'M' ? "Massa específica do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)\"  " : "Volume específico do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)";
         auto janela = x.Espera("frame", titulo, 5000);
         ASSERT_TRUE(janela) << tabela;
         FechaPelaBarraDeTitulo(*janela);
         EXPECT_TRUE(x.EsperaSumir("frame", titulo, 5000)) << tabela;
     }
-    Menu("Ajuda", {"Exibir dicas..."});
+    Menu({"Aj&uda", "Exibir &dicas..."});
     ASSERT_TRUE(x.Espera("label", "Você sabia...", 5000));
     x.Tecla("Escape");
     EXPECT_TRUE(x.EsperaSumir("label", "Você sabia...", 5000));
-    Menu("Exibir", {"Opções..."});
+    Menu({"E&xibir", "&Opções..."});
     ASSERT_TRUE(x.Espera("dialog", "Opções", 5000));
     x.Tecla("Escape");
     EXPECT_TRUE(x.EsperaSumir("dialog", "Opções", 5000));
-    Menu("Ajuda", {"Sobre o Tramelo..."});
+    Menu({"Aj&uda", "&Sobre o Tramelo..."});
     auto link = x.Espera("label", "E-mail: suporte@quillon.com.br", 5000);
     ASSERT_TRUE(link);
     x.Clica(link->cx(), link->cy());
@@ -317,7 +398,7 @@ TEST_F(Jornada, SaiComJanelaMovidaEVoltaNoMesmoLugar) {
     x.Comando("xdotool windowmove " + id + " 150 120 windowsize " + id + " 800 640");
     x.Pausa(500);
     const std::string antes = geometria();
-    Menu("Arquivo", {"Sair"});
+    Menu({"&Arquivo", "Sai&r"});
     ASSERT_EQ(x.Espera(10000), 0) << x.Saida();
     ASSERT_TRUE(x.Inicia());
     FechaDica();

@@ -136,13 +136,10 @@ SessaoX::SessaoX(const std::string& programa, const std::string& dicas) {
                   Caminho("a11y.log"));
     wm_ = Lanca({"openbox", "--sm-disable"}, -1, Caminho("openbox.log"));
     // The window manager and the accessibility bus are up when they answer.
-    for (int i = 0; i < 100; ++i) {
-        if (!Comando("xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null").empty() &&
-            Comando("xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null").find("window id") !=
-                std::string::npos)
+    for (int i = 0; i < 100; ++i, Pausa(50))
+        if (Comando("xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null").find("window id") !=
+            std::string::npos)
             break;
-        Pausa(50);
-    }
     Pausa(300);
 }
 
@@ -229,6 +226,7 @@ std::vector<No> SessaoX::Arvore() const {
         n.visivel = f.find('S') != std::string::npos;
         n.ativo = f.find('A') != std::string::npos;
         n.focado = f.find('F') != std::string::npos;
+        n.marcado = f.find('C') != std::string::npos;
         if (c.size() > 8) n.texto = c[8];
         nos.push_back(n);
     }
@@ -243,32 +241,32 @@ std::optional<No> SessaoX::Acha(const std::string& papel, const std::string& nom
 
 std::optional<No> SessaoX::Espera(const std::string& papel, const std::string& nome,
                                   int ms) const {
-    const auto fim = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
-    do {
-        if (auto n = Acha(papel, nome)) return n;
-        Pausa(100);
-    } while (std::chrono::steady_clock::now() < fim);
-    return std::nullopt;
+    for (const auto fim = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);;
+         Pausa(100))
+        if (auto n = Acha(papel, nome); n || std::chrono::steady_clock::now() >= fim) return n;
 }
 
 bool SessaoX::EsperaSumir(const std::string& papel, const std::string& nome, int ms) const {
-    const auto fim = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
-    do {
+    for (const auto fim = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);;
+         Pausa(100))
         if (!Acha(papel, nome)) return true;
-        Pausa(100);
-    } while (std::chrono::steady_clock::now() < fim);
-    return false;
+        else if (std::chrono::steady_clock::now() >= fim) return false;
+}
+
+// The pointer comes from beside the point, as a hand does: a title-bar button
+// takes a press only once the pointer has moved over it.
+static std::string Aproxima(int x, int y) {
+    return "xdotool mousemove --sync " + std::to_string(x - 20) + " " + std::to_string(y + 40) +
+           " mousemove --sync " + std::to_string(x) + " " + std::to_string(y);
 }
 
 void SessaoX::Clica(int x, int y, int botao) const {
-    Comando("xdotool mousemove --sync " + std::to_string(x) + " " + std::to_string(y) +
-            " click " + std::to_string(botao));
+    Comando(Aproxima(x, y) + " click " + std::to_string(botao));
     Pausa(150);
 }
 
 void SessaoX::DuploClique(int x, int y) const {
-    Comando("xdotool mousemove --sync " + std::to_string(x) + " " + std::to_string(y) +
-            " click --repeat 2 --delay 60 1");
+    Comando(Aproxima(x, y) + " click --repeat 2 --delay 60 1");
     Pausa(250);
 }
 
@@ -284,18 +282,6 @@ void SessaoX::Digita(const std::string& texto) const {
 
 void SessaoX::Pausa(int ms) const {
     std::this_thread::sleep_for(std::chrono::milliseconds(ms));
-}
-
-std::vector<std::string> SessaoX::Janelas() const {
-    std::vector<std::string> nomes;
-    std::istringstream ids(Comando("xdotool search --onlyvisible --name '.' 2>/dev/null"));
-    std::string id;
-    while (std::getline(ids, id)) {
-        std::string nome = Comando("xdotool getwindowname " + id + " 2>/dev/null");
-        while (!nome.empty() && nome.back() == '\n') nome.pop_back();
-        if (!nome.empty()) nomes.push_back(nome);
-    }
-    return nomes;
 }
 
 std::string SessaoX::AreaDeTransferencia() const {

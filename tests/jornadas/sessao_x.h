@@ -17,7 +17,7 @@ struct No {
     int nivel = 0;
     std::string papel, nome, texto;
     int x = 0, y = 0, w = 0, h = 0;
-    bool visivel = false, ativo = false, focado = false;
+    bool visivel = false, ativo = false, focado = false, marcado = false;
     int cx() const { return x + w / 2; }
     int cy() const { return y + h / 2; }
 };
@@ -56,8 +56,6 @@ class SessaoX {
     void Tecla(const std::string& teclas) const;
     void Digita(const std::string& texto) const;
     void Pausa(int ms) const;
-    // Names of the visible top-level windows.
-    std::vector<std::string> Janelas() const;
     std::string AreaDeTransferencia() const;
     void Captura(const std::string& png) const;
     // Runs a command in the session's environment; its standard output.
