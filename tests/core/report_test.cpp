@@ -6,7 +6,6 @@
 #include "plataforma/canal.h"
 #include "report/agora.h"
 #include "report/buffer.h"
-#include "report/exportacao.h"
 #include "report/exportar.h"
 #include "report/frm_relatorio.h"
 #include "report/impressao.h"
