@@ -1,20 +1,20 @@
-// File channel 1: one file at a time, items in and out, and a save that
-// replaces the earlier file only when it is complete.
+// File channel 1: one file at a time, items in and out in the files' code
+// page, and a save that replaces the earlier file only when it is complete.
 #include "plataforma/canal.h"
+#include "plataforma/cp1252.h"
 #include "plataforma/falha.h"
+
+#include "pasta_temporaria.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
-#include <random>
 #include <string>
 #include <vector>
 
-namespace tramelo {
+namespace tramelo::teste {
 namespace {
 
 namespace fs = std::filesystem;
@@ -31,48 +31,17 @@ int NumeroDaFalha(const std::function<void()>& passo) {
 
 class PlataformaCanal : public ::testing::Test {
   protected:
-    void SetUp() override {
-        std::random_device r;
-        pasta_ = fs::temp_directory_path() /
-                 ("tramelo-canal-" + std::to_string(r()) + "-" + std::to_string(r()));
-        fs::create_directories(pasta_);
-        canal1().Reinicia();
-    }
-    void TearDown() override {
-        canal1().Reinicia();
-        std::error_code ec;
-        for (const auto& e : fs::recursive_directory_iterator(pasta_, ec))
-            fs::permissions(e.path(), fs::perms::owner_all, fs::perm_options::add, ec);
-        fs::remove_all(pasta_, ec);
-    }
-
-    std::string Nome(const std::string& nome) const { return (pasta_ / nome).string(); }
-
-    void Grava(const std::string& nome, const std::string& bytes) const {
-        std::ofstream(pasta_ / nome, std::ios::binary) << bytes;
-    }
-    std::string Conteudo(const std::string& nome) const {
-        std::ifstream f(pasta_ / nome, std::ios::binary);
-        return {std::istreambuf_iterator<char>(f), {}};
-    }
+    void SetUp() override { canal1().Reinicia(); }
+    void TearDown() override { canal1().Reinicia(); }
+    std::string Nome(const std::string& nome) const { return pasta / nome; }
     std::vector<std::string> Entradas() const {
         std::vector<std::string> nomes;
-        for (const auto& e : fs::directory_iterator(pasta_))
+        for (const auto& e : fs::directory_iterator(pasta.str()))
             nomes.push_back(e.path().filename());
         std::sort(nomes.begin(), nomes.end());
         return nomes;
     }
-    // Whether the permission bits bind us at all (they don't bind root).
-    bool PermissoesValem() const {
-        Grava("sonda", "x");
-        fs::permissions(pasta_ / "sonda", fs::perms::none);
-        const bool valem = !std::ifstream(pasta_ / "sonda").is_open();
-        fs::permissions(pasta_ / "sonda", fs::perms::owner_all);
-        fs::remove(pasta_ / "sonda");
-        return valem;
-    }
-
-    fs::path pasta_;
+    PastaTemporaria pasta;
 };
 
 TEST_F(PlataformaCanal, LeituraDeItens) {
@@ -82,85 +51,104 @@ TEST_F(PlataformaCanal, LeituraDeItens) {
     };
     const Caso casos[] = {
         {"\"\"\r\n\"\"\r\n", {"", ""}},
-        {"\"FT-2301\"\r\n", {"FT-2301"}},
         // a quote inside a tag ends it; the rest up to the line end is dropped
         {"\"FT-\"23\"01\"\r\n2,\"1200\",0\r\n", {"FT-", "2", "1200", "0"}},
         {"\"a\" resto,b", {"a", "b"}},
         // blanks and line ends before an item are skipped, not those after it
         {"  \r\n\r\n\t 7 ,  \"x\"  ,8\r\n", {"7 ", "x", "8"}},
         {"0,  \"\xC1gua (Liq\xFCido)\"\r\n", {"0", "Água (Liqüido)"}},
-        {"abc def,ghi\r\njkl\r\n", {"abc def", "ghi", "jkl"}},
-        {"ab\"c\",d\r\n", {"ab\"c\"", "d"}},
-        {"1,,2\r\n", {"1", "", "2"}},
-        {"1\n2\r3\r\n", {"1", "2", "3"}},
-        {"\"a\r\nb\",c\r\n", {"a\r\nb", "c"}},
-        {"\"sem fim\r\nx", {"sem fim\r\nx"}},
-        {"", {}},
-        {" \r\n \r\n", {"#62"}},
-        {"1\r\n\r\n", {"1", "#62"}},
+        {"abc def,ghi\r\njkl\r\n", {"abc def", "ghi", "jkl"}}, {"ab\"c\",d\r\n", {"ab\"c\"", "d"}},
+        {"1,,2\r\n", {"1", "", "2"}}, {"1\n2\r3\r\n", {"1", "2", "3"}},
+        {"\"a\r\nb\",c\r\n", {"a\r\nb", "c"}}, {"\"sem fim\r\nx", {"sem fim\r\nx"}},
+        {"", {}}, {" \r\n \r\n", {"#62"}}, {"1\r\n\r\n", {"1", "#62"}},
     };
     for (const Caso& c : casos) {
         SCOPED_TRACE(c.bytes);
-        Grava("x.trl", c.bytes);
+        GravaBytes(Nome("x.trl"), c.bytes);
         canal1().AbreEntrada(Nome("x.trl"));
         std::vector<std::string> lidos;
-        while (!canal1().Eof()) {
-            try {
-                lidos.push_back(canal1().LeItem());
-            } catch (const Falha& f) {
-                lidos.push_back("#" + std::to_string(f.numero()));
-                break;
-            }
-        }
+        for (int n = 0; n == 0 && !canal1().Eof();)
+            if ((n = NumeroDaFalha([&] { lidos.push_back(canal1().LeItem()); })))
+                lidos.push_back("#" + std::to_string(n));
         EXPECT_EQ(lidos, c.itens);
-        EXPECT_TRUE(canal1().Eof());
         EXPECT_EQ(NumeroDaFalha([] { canal1().LeItem(); }), 62);
         canal1().Fecha();
     }
 }
 
-TEST_F(PlataformaCanal, FormaDosItensEscritos) {
-    struct Caso {
-        ItemArquivo item;
-        const char* forma;
-    };
-    const Caso casos[] = {
-        {0, "0"},
-        {static_cast<short>(-1), "-1"},
-        {32767L, "32767"},
-        {2.0, "2"},
-        {1e15, "1E+15"},
-        {1.5e-5, "1.5E-05"},
-        {"", "\"\""},
-        {"0,72", "\"0,72\""},
+TEST_F(PlataformaCanal, ItensEscritosENumeroDoItem) {
+    const std::pair<ItemArquivo, const char*> formas[] = {
+        {0, "0"},          {static_cast<short>(-1), "-1"}, {32767L, "32767"}, {2.0, "2"},
+        {1e15, "1E+15"},   {1.5e-5, "1.5E-05"},            {"", "\"\""},      {"0,72", "\"0,72\""},
         {"FT-\"23\"", "\"FT-\"23\"\""}, // no escape
     };
-    for (const Caso& c : casos) {
-        SCOPED_TRACE(c.forma);
-        EXPECT_EQ(c.item.FormaEscrita(), c.forma);
+    for (const auto& [item, forma] : formas) EXPECT_EQ(item.FormaEscrita(), forma);
+    const std::pair<const char*, int> numeros[] = { // -1: failure 6
+        {"0", 0},         {"29", 29},         {" 1 2 ", 12},  {"2.5", 2},   {"3.5", 4},
+        {"-7", -7},       {"1,5", 1},         {"abc", 0},     {"", 0},      {"0abc", 0},
+        {"32767", 32767}, {"-32768", -32768}, {"32768", -1},  {"1E5", -1},  {"&H10", 16},
+    };
+    for (const auto& [item, numero] : numeros) {
+        if (numero == -1) EXPECT_EQ(NumeroDaFalha([&] { NumeroDoItem(item); }), 6) << item;
+        else EXPECT_EQ(NumeroDoItem(item), numero) << item;
     }
 }
 
-TEST_F(PlataformaCanal, NumeroDoItem) {
-    struct Caso {
-        const char* item;
-        int numero; // -100000: failure 6
+TEST_F(PlataformaCanal, UmArquivoDeCadaVezEFalhasAoAbrir) {
+    GravaBytes(Nome("a.trl"), "\"a\"\r\n");
+    canal1().AbreSaida(Nome("b.trl"));
+    EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreSaida(Nome("c.trl")); }), 55);
+    EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreEntrada(Nome("a.trl")); }), 55);
+    // the refused opens don't disturb the open file
+    canal1().Escreve({"b"});
+    canal1().Fecha();
+    EXPECT_EQ(LeBytes(Nome("b.trl")), "\"b\"\r\n");
+    canal1().AbreEntrada(Nome("a.trl"));
+    EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreSaida(Nome("a.trl")); }), 55);
+    EXPECT_EQ(canal1().LeItem(), "a");
+    canal1().Fecha();
+    canal1().Fecha(); // closing a free channel does nothing
+    EXPECT_EQ(NumeroDaFalha([] { canal1().LeItem(); }), 52);
+    canal1().AbreSaida(Nome("a.trl"));
+    EXPECT_EQ(NumeroDaFalha([] { canal1().LeItem(); }), 54);
+    canal1().Reinicia();
+
+    fs::create_directory(pasta / "pasta");
+    const std::tuple<const char*, bool, int> casos[] = { // name, for output, failure
+        {"nao-existe.trl", false, 53}, {"falta/x.trl", false, 76}, {"falta/x.trl", true, 76},
+        {"a.trl/x.trl", false, 76},    {"a.trl/x.trl", true, 76},  {"pasta", false, 75},
+        {"pasta", true, 75},
     };
-    const Caso casos[] = {
-        {"0", 0},         {"29", 29},         {" 1 2 ", 12},      {"2.5", 2},       {"3.5", 4},
-        {"-7", -7},       {"1,5", 1},         {"abc", 0},         {"", 0},          {"0abc", 0},
-        {"32767", 32767}, {"-32768", -32768}, {"32768", -100000}, {"1E5", -100000}, {"&H10", 16},
-    };
-    for (const Caso& c : casos) {
-        SCOPED_TRACE(c.item);
-        if (c.numero == -100000)
-            EXPECT_EQ(NumeroDaFalha([&] { NumeroDoItem(c.item); }), 6);
-        else
-            EXPECT_EQ(NumeroDoItem(c.item), c.numero);
+    for (const auto& [nome, saida, numero] : casos) {
+        const std::string n = Nome(nome);
+        EXPECT_EQ(NumeroDaFalha([&] { saida ? canal1().AbreSaida(n) : canal1().AbreEntrada(n); }),
+                  numero) << nome;
+        EXPECT_FALSE(canal1().Ocupado());
     }
+    EXPECT_EQ(Entradas(), (std::vector<std::string>{"a.trl", "b.trl", "pasta"}));
+    EXPECT_EQ(LeBytes(Nome("a.trl")), "\"a\"\r\n");
 }
 
-TEST_F(PlataformaCanal, TabulacaoELinhas) {
+TEST_F(PlataformaCanal, GravacaoSubstituiOAnteriorSoAoFecharETabula) {
+    const auto modo = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    GravaBytes(Nome("calc.trl"), "\"antigo\"\r\n");
+    fs::permissions(pasta / "calc.trl", modo);
+    canal1().AbreSaida(Nome("calc.trl"));
+    canal1().Escreve({"novo"});
+    canal1().Escreve({2, "1200", 0});
+    // until it is closed, the earlier file stands and the new one is beside it
+    EXPECT_EQ(LeBytes(Nome("calc.trl")), "\"antigo\"\r\n");
+    EXPECT_EQ(Entradas().size(), 2u);
+    canal1().Fecha();
+    EXPECT_EQ(LeBytes(Nome("calc.trl")), "\"novo\"\r\n2,\"1200\",0\r\n");
+    EXPECT_EQ(Entradas(), std::vector<std::string>{"calc.trl"});
+    EXPECT_EQ(fs::status(pasta / "calc.trl").permissions(), modo);
+    // a new file appears only at close too
+    canal1().AbreSaida(Nome("novo.trl"));
+    canal1().Escreve({"x"});
+    EXPECT_FALSE(fs::exists(pasta / "novo.trl"));
+    canal1().Fecha();
+    EXPECT_EQ(LeBytes(Nome("novo.trl")), "\"x\"\r\n");
     canal1().AbreSaida(Nome("t.txt"));
     canal1().Imprime("12,");
     canal1().Tab(5);
@@ -173,89 +161,25 @@ TEST_F(PlataformaCanal, TabulacaoELinhas) {
     canal1().Escreve({});
     canal1().Escreve({"ã", 1, "b"});
     canal1().Fecha();
-    EXPECT_EQ(Conteudo("t.txt"), "12, \"a\"\r\nabcdef\r\n    x\r\n\r\n\"\xE3\",1,\"b\"\r\n");
+    EXPECT_EQ(LeBytes(Nome("t.txt")), "12, \"a\"\r\nabcdef\r\n    x\r\n\r\n\"\xE3\",1,\"b\"\r\n");
 }
 
-TEST_F(PlataformaCanal, UmArquivoDeCadaVez) {
-    Grava("a.trl", "\"a\"\r\n");
-    EXPECT_FALSE(canal1().Ocupado());
-    canal1().AbreSaida(Nome("b.trl"));
-    EXPECT_TRUE(canal1().Ocupado());
-    EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreSaida(Nome("c.trl")); }), 55);
-    EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreEntrada(Nome("a.trl")); }), 55);
-    EXPECT_EQ(DescricaoFalha(55), "Arquivo já aberto");
-    // the refused opens don't disturb the open file
-    canal1().Escreve({"b"});
-    canal1().Fecha();
-    EXPECT_FALSE(canal1().Ocupado());
-    EXPECT_EQ(Conteudo("b.trl"), "\"b\"\r\n");
-    EXPECT_EQ(Entradas(), (std::vector<std::string>{"a.trl", "b.trl"}));
-
-    canal1().AbreEntrada(Nome("a.trl"));
-    EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreSaida(Nome("a.trl")); }), 55);
-    EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreEntrada(Nome("b.trl")); }), 55);
-    EXPECT_EQ(canal1().LeItem(), "a");
-    canal1().Fecha();
-    canal1().Fecha(); // closing a free channel does nothing
-    EXPECT_FALSE(canal1().Ocupado());
-
-    // using the channel in the wrong way
-    EXPECT_EQ(NumeroDaFalha([] { canal1().LeItem(); }), 52);
-    canal1().AbreSaida(Nome("a.trl"));
-    EXPECT_EQ(NumeroDaFalha([] { canal1().LeItem(); }), 54);
-    canal1().Fecha();
-}
-
-TEST_F(PlataformaCanal, FalhasAoAbrir) {
-    Grava("a.trl", "1\r\n");
-    fs::create_directory(pasta_ / "pasta");
-    struct Caso {
-        std::string nome;
-        bool saida;
-        int numero;
-    };
-    const Caso casos[] = {
-        {"nao-existe.trl", false, 53}, {"falta/x.trl", false, 76}, {"falta/x.trl", true, 76},
-        {"a.trl/x.trl", false, 76},    {"a.trl/x.trl", true, 76},  {"pasta", false, 75},
-        {"pasta", true, 75},
-    };
-    for (const Caso& c : casos) {
-        SCOPED_TRACE(c.nome);
-        const std::string nome = Nome(c.nome);
-        EXPECT_EQ(
-            NumeroDaFalha([&] { c.saida ? canal1().AbreSaida(nome) : canal1().AbreEntrada(nome); }),
-            c.numero);
-        EXPECT_FALSE(canal1().Ocupado());
+// Every byte of the code page has a character and comes back; what the page
+// lacks, and broken UTF-8, is "?" per byte read.
+TEST(PlataformaCp1252, IdaEVolta) {
+    for (int b = 0; b <= 0xFF; ++b) {
+        const std::string byte(1, static_cast<char>(b)), texto = DeCp1252(byte);
+        EXPECT_EQ(ParaCp1252(texto), byte) << b;
+        EXPECT_EQ(texto.size() == 1, b < 0x80) << b; // above, two or three bytes of UTF-8
     }
-    EXPECT_EQ(DescricaoFalha(53), "Arquivo não encontrado");
-    EXPECT_EQ(DescricaoFalha(76), "Caminho não encontrado");
-    EXPECT_EQ(Entradas(), (std::vector<std::string>{"a.trl", "pasta"}));
-    EXPECT_EQ(Conteudo("a.trl"), "1\r\n");
-}
-
-TEST_F(PlataformaCanal, GravacaoSubstituiOAnteriorSoAoFechar) {
-    Grava("calc.trl", "\"antigo\"\r\n");
-    fs::permissions(pasta_ / "calc.trl",
-                    fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-    canal1().AbreSaida(Nome("calc.trl"));
-    canal1().Escreve({"novo"});
-    canal1().Escreve({2, "1200", 0});
-    // until it is closed, the earlier file stands and the new one is beside it
-    EXPECT_EQ(Conteudo("calc.trl"), "\"antigo\"\r\n");
-    EXPECT_EQ(Entradas().size(), 2u);
-    canal1().Fecha();
-    EXPECT_EQ(Conteudo("calc.trl"), "\"novo\"\r\n2,\"1200\",0\r\n");
-    EXPECT_EQ(Entradas(), std::vector<std::string>{"calc.trl"});
-    EXPECT_EQ(fs::status(pasta_ / "calc.trl").permissions(),
-              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-
-    // a new file appears only at close too
-    canal1().AbreSaida(Nome("novo.trl"));
-    canal1().Escreve({"x"});
-    EXPECT_FALSE(fs::exists(pasta_ / "novo.trl"));
-    canal1().Fecha();
-    EXPECT_EQ(Conteudo("novo.trl"), "\"x\"\r\n");
+    const std::pair<std::string, std::string> casos[] = {
+        {"ā", "?"},      {"\u07FF", "?"},         {"Ω=1", "?=1"},          {"😀!", "?!"},
+        {"\u0080", "?"}, {"\xC3", "?"},           {"\xC3" "A", "?A"},      {"\x80\xBF", "??"},
+        {"\xC0\xAF", "??"},  {"\xED\xA0\x80", "???"}, {"\xF4\x90\x80\x80", "????"},
+        {"\xFF" "a\xFE", "?a?"},       {"\xE2\x82" "x", "??x"},
+    };
+    for (const auto& [utf8, bytes] : casos) EXPECT_EQ(ParaCp1252(utf8), bytes) << utf8;
 }
 
 } // namespace
-} // namespace tramelo
+} // namespace tramelo::teste
