@@ -89,7 +89,6 @@ TEST_F(ShellAssociacao, VerificacaoNaPartida) {
         {"sem comando", "Tramelo.File", std::nullopt, std::nullopt, false},
         // The comparison never sees the stored command: nothing written or asked.
         {"outra pasta", "Tramelo.File", "/home/ana/velho/Tramelo %1", std::nullopt, false},
-        {"outra pasta, sem pergunta", "Tramelo.File", "/home/ana/velho/Tramelo %1", "0", false},
         {"em ordem", "Tramelo.File", "/opt/tramelo/bin/Tramelo %1", "1", false},
     };
     for (const Caso& c : casos) {
