@@ -1,13 +1,12 @@
-// The first instance from its entry to what it opens, and a second start's
-// command reaching it.
+// The first instance from its command line to what it opens, a second
+// start's command reaching it, the frame with its settings, and the about box.
 #include "caixas_roteiro.h"
-#include "dialogos_roteiro.h"
 #include "pasta_temporaria.h"
 
 #include "document/ciclo.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janelas.h"
-#include "plataforma/canal.h"
+#include "plataforma/falha.h"
 #include "shell/abertura.h"
 #include "shell/associacao.h"
 #include "shell/barras.h"
@@ -23,58 +22,25 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 
 namespace tramelo::teste {
 namespace {
 
-using Registro = std::vector<std::string>;
-
-class TelaAberturaRoteiro : public TelaAbertura {
-  public:
-    explicit TelaAberturaRoteiro(Registro& r) : eventos(r) {}
-    void Carregada(FrmAbertura&) override { eventos.push_back("splash carregado"); }
-    void MostraModal(FrmAbertura& f) override {
-        eventos.push_back("splash modal");
-        if (duranteOSplash) duranteOSplash();
-        tmrLogin_Timer(f); // its time is up
-    }
-    void Descarregada(FrmAbertura&) override { eventos.push_back("splash descarregado"); }
-    Registro& eventos;
-    std::function<void()> duranteOSplash;
-};
-
 class TelaMenuRoteiro : public TelaMenu {
   public:
-    explicit TelaMenuRoteiro(Registro& r) : eventos(r) {}
-    void Carrega() override { eventos.push_back("menu carregado"); }
+    void Carrega() override {}
     void Mostra() override {
         if (mostraFalha) throw Falha(5);
         eventos.push_back("menu mostrado");
         visivel = true;
     }
     bool Visivel() override { return visivel; }
-    void AplicaEstado() override {
-        eventos.push_back("estado " + std::to_string(mdiMenu().WindowState));
-    }
-    void GuardaLugar() override { eventos.push_back("lugar guardado"); }
-    void DescarregaOutras() override { eventos.push_back("outras descarregadas"); }
-    Registro& eventos;
+    void AplicaEstado() override { eventos.push_back("estado " + std::to_string(mdiMenu().WindowState)); }
+    void GuardaLugar() override {}
+    void DescarregaOutras() override {}
+    std::vector<std::string> eventos;
     bool visivel = false, mostraFalha = false;
-};
-
-class LigacaoRoteiro : public LigacaoInstancias {
-  public:
-    explicit LigacaoRoteiro(Registro& r) : eventos(r) {}
-    bool OutraInstancia() override { return false; }
-    bool Conecta(const std::string&) override { return false; }
-    bool Envia(const std::string&, int) override { return false; }
-    void Atende(const std::string& servicoTopico,
-                std::function<void(const std::string&)> r) override {
-        eventos.push_back("atende " + servicoTopico);
-        recebe = std::move(r);
-    }
-    Registro& eventos;
-    std::function<void(const std::string&)> recebe;
 };
 
 class ShellInicio : public ::testing::Test {
@@ -88,34 +54,31 @@ class ShellInicio : public ::testing::Test {
         DefinePastas(pasta / "bin");
         DefinePastasRegistro(pasta / "config/Tramelo", pasta / "bin");
         CarregaCatalogo();
-        ContadorCalculos() = 0;
-        Calculos().clear();
-        filhoAtivo() = {};
+        Limpa();
         FilesMRU() = {};
         mdiMenu() = MdiMenu{};
-        modBase().ArquivoInicial.clear();
-        frmAbertura() = FrmAbertura{};
-        LinhaComando().clear();
-        canal1().Reinicia();
         ExecutaFerramenta = [](const std::string&, const std::vector<std::string>&) {};
         telaMenu() = &tela;
-        telaAbertura() = &abertura;
-        ligacaoInstancias() = &ligacao;
-        MostraDicas = [this] { eventos.push_back("dica"); };
+        MostraDicas = [this] { tela.eventos.push_back("dica"); };
     }
     void TearDown() override {
-        Calculos().clear();
-        filhoAtivo() = {};
+        Limpa();
         mdiMenu() = MdiMenu{};
         telaMenu() = nullptr;
-        telaAbertura() = nullptr;
-        ligacaoInstancias() = nullptr;
         MostraDicas = nullptr;
         ExecutaFerramenta = nullptr;
         PastaExecutavel().clear();
         LinhaComando().clear();
+        modBase().ArquivoInicial.clear();
         unsetenv("XDG_CONFIG_HOME");
         unsetenv("XDG_DATA_HOME");
+    }
+    void Limpa() {
+        Calculos().clear();
+        filhoAtivo() = {};
+        ContadorCalculos() = 0;
+        caixas.mostradas.clear();
+        tela.eventos.clear();
     }
     // A calculation file, in a folder with a blank in its name.
     std::string Exemplo() {
@@ -126,17 +89,46 @@ class ShellInicio : public ::testing::Test {
         return destino;
     }
     bool Houve(const std::string& evento) const {
-        return std::find(eventos.begin(), eventos.end(), evento) != eventos.end();
+        return std::find(tela.eventos.begin(), tela.eventos.end(), evento) != tela.eventos.end();
     }
 
     PastaTemporaria pasta;
     CaixasRoteiro caixas;
-    DialogosRoteiro dialogos;
-    Registro eventos;
-    TelaAberturaRoteiro abertura{eventos};
-    TelaMenuRoteiro tela{eventos};
-    LigacaoRoteiro ligacao{eventos};
+    TelaMenuRoteiro tela;
 };
+
+TEST(ShellEntrada, LinhaDeComandoParaArquivoInicial) {
+    const struct {
+        const char* linha;
+        std::optional<std::string> arquivo; // none: failure 5
+    } casos[] = {
+        {"", ""},
+        {"/A /home/ana/Saves/a.trl", "/home/ana/Saves/a.trl"},
+        {"/C /home/ana/Saves/a.trl", "/home/ana/Saves/a.trl"},
+        {"/a /home/ana/a.trl", "/a /home/ana/a.trl"}, // the test is case-sensitive
+        {"/Ax.trl", ".trl"},                         // any separator character is dropped
+        {"/A \"/tmp/a b.trl\"", "\"/tmp/a b.trl\""}, // quotes stay
+        {"/A ", ""},
+        {"/Aé/x.trl", "/x.trl"}, // characters, not bytes
+        {"/A", std::nullopt},
+        {"/C", std::nullopt},
+        {"/P /tmp/a.trl", "/P /tmp/a.trl"}, // only the second start's command knows "/P"
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.linha);
+        LinhaComando() = c.linha;
+        modBase().ArquivoInicial = "antes";
+        try {
+            LeLinhaComando();
+            EXPECT_EQ(modBase().ArquivoInicial, c.arquivo.value_or("sem falha?"));
+        } catch (const Falha& f) {
+            EXPECT_FALSE(c.arquivo);
+            EXPECT_EQ(f.numero(), 5);
+        }
+    }
+    LinhaComando().clear();
+    modBase().ArquivoInicial.clear();
+}
 
 TEST_F(ShellInicio, OQueAbreAoFimDaPartida) {
     struct Caso {
@@ -151,7 +143,6 @@ TEST_F(ShellInicio, OQueAbreAoFimDaPartida) {
     const Caso casos[] = {
         {"dicas desligadas", "0", "", false, "Cálculo 1", false},
         {"dicas ligadas", "1", "", true, "", false},
-        {"valor vazio", "", "", true, "", false},
         {"arquivo, dicas ligadas", nullptr, "/A " + arquivo, false, "água 1.trl", false},
         {"arquivo, dicas desligadas", "0", arquivo, false, "água 1.trl", false},
         // No failure of the bring-up: the box, and neither tip nor calculation.
@@ -161,22 +152,16 @@ TEST_F(ShellInicio, OQueAbreAoFimDaPartida) {
         SCOPED_TRACE(c.nome);
         std::filesystem::remove_all(pasta / "config");
         if (c.dicas) GravaConfig("Config", "DicasIniciar", c.dicas);
-        Calculos().clear();
-        filhoAtivo() = {};
-        ContadorCalculos() = 0;
-        caixas.mostradas.clear();
-        eventos.clear();
+        Limpa();
         LinhaComando() = c.linha;
 
         Main();
 
         EXPECT_EQ(Houve("dica"), c.dica);
-        EXPECT_EQ(eventos.back(), c.dica ? "dica" : "menu mostrado");
+        EXPECT_EQ(tela.eventos.back(), c.dica ? "dica" : "menu mostrado");
+        ASSERT_EQ(Calculos().size(), *c.calculo ? 1u : 0u);
         if (*c.calculo) {
-            ASSERT_EQ(Calculos().size(), 1u);
             EXPECT_EQ(Calculos()[0]->Caption, c.calculo);
-        } else {
-            EXPECT_TRUE(Calculos().empty());
         }
         ASSERT_EQ(caixas.mostradas.size(), c.naoEncontrado ? 1u : 0u);
         if (c.naoEncontrado) {
@@ -195,8 +180,7 @@ TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
         bool mostraFalha;
         int estadoDepois;
         std::string arquivoInicial;
-        bool abre;
-        bool naoEncontrado;
+        bool abre, naoEncontrado;
     };
     const Caso casos[] = {
         {"minimizada com arquivo", 1, 2, "/P " + arquivo, false, 2, arquivo, true, false},
@@ -208,10 +192,7 @@ TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
     };
     for (const Caso& c : casos) {
         SCOPED_TRACE(c.nome);
-        Calculos().clear();
-        filhoAtivo() = {};
-        caixas.mostradas.clear();
-        eventos.clear();
+        Limpa();
         tela.visivel = false;
         tela.mostraFalha = c.mostraFalha;
         mdiMenu().WindowState = c.estado;
@@ -226,9 +207,82 @@ TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
         EXPECT_EQ(Calculos().size(), c.abre ? 1u : 0u);
         EXPECT_EQ(caixas.mostradas.size(), c.naoEncontrado ? 1u : 0u);
         if (c.naoEncontrado) {
-            EXPECT_EQ(caixas.mostradas[0].texto, "Arquivo não encontrado");
             EXPECT_EQ(caixas.mostradas[0].titulo, "/A " + arquivo);
         }
+    }
+}
+
+TEST_F(ShellInicio, MenuCarregadoEDescarregadoComAsConfiguracoes) {
+    MdiMenu& m = mdiMenu();
+    EXPECT_FALSE(m.tbPadrao.Botao("Salvar")->Enabled); // no calculation open yet
+    GravaConfig("Config", "Barra1", "False");
+    GravaConfig("Config", "Barra2", "false"); // only the exact text hides
+    GravaConfig("Config\\Menu", "MainLeft", "0");
+    GravaConfig("Config\\Menu", "MainTop", "900");
+    GravaConfig("Config\\Menu", "MainWidth", "12000");
+    GravaConfig("FilesMRU", " 1", "/x/a.trl");
+    MdiMenu_Load();
+    EXPECT_FALSE(m.cobBarra.Bands(2).Visible);
+    EXPECT_TRUE(m.mnuExibirEtiqueta.Checked);
+    EXPECT_EQ(m.Left, 60); // 0 isn't restored
+    EXPECT_EQ(m.Top, 900);
+    EXPECT_EQ(m.Width, 12000);
+    EXPECT_EQ(FilesMRU()[0], "/x/a.trl");
+
+    m.WindowState = 2;
+    m.Left = 1500;
+    MdiMenu_Unload();
+    EXPECT_EQ(LeConfig("Config", "Barra1"), "False");
+    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState"), "2");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1500");
+}
+
+TEST_F(ShellInicio, BandasEImprimirSemRelatorio) {
+    MdiMenu& m = mdiMenu();
+    mnuExibirBarraPadrao_Click(); // one band left: the coolbar stays
+    EXPECT_TRUE(m.cobBarra.Visible);
+    EXPECT_FALSE(m.cobBarra.Bands(1).Visible || m.mnuExibirBarraPadrao.Checked);
+    EXPECT_TRUE(m.cobBarra.Bands(2).Visible);
+    mnuExibirBarraCalculo_Click(); // the last one: the coolbar goes
+    EXPECT_FALSE(m.cobBarra.Visible || m.mnuExibirBarraCalculo.Checked);
+
+    // "Imprimir" on either bar with no report active does nothing.
+    int impressos = 0;
+    ImprimeRelatorio = [&](FrmRelatorio&) { ++impressos; };
+    tbPadrao_ButtonClick("Imprimir");
+    tbCalculo_ButtonClick("Imprimir");
+    ImprimeRelatorio = nullptr;
+    EXPECT_EQ(impressos, 0);
+
+    // Atualiza resets the frame's caption and refreshes the recent files when it can.
+    m.Caption = "Tramelo - [Cálculo 1]";
+    int chamadas = 0;
+    AtualizaMRUDoMenu = [&](MdiMenu& quem) { chamadas += &quem == &m; };
+    Atualiza(m);
+    AtualizaMRUDoMenu = nullptr;
+    Atualiza(m);
+    EXPECT_EQ(m.Caption, "Tramelo");
+    EXPECT_EQ(chamadas, 1);
+}
+
+TEST(ShellSobre, DicaESublinhadoDosLinks) {
+    FrmSobre f;
+    FrmSobre_Load(f);
+    // The site's tip is on the pointer box moved over the site's link.
+    EXPECT_EQ(f.picPosLink[1].ToolTipText, "Clique aqui para entrar no site");
+    EXPECT_EQ(f.picPosLink[1].Top, f.lblLink[1].Top);
+    // Underlined while the pointer is strictly inside a link's box.
+    const std::array<Retangulo, 2> caixas{Retangulo{10, 20, 110, 40}, Retangulo{10, 50, 110, 70}};
+    const struct {
+        Ponto cursor;
+        bool link0, link1;
+    } casos[] = {{{60, 30}, true, false},   {{60, 60}, false, true},  {{10, 30}, false, false},
+                 {{110, 60}, false, false}, {{60, 20}, false, false}, {{60, 70}, false, false}};
+    for (const auto& c : casos) {
+        tmrSublinha_Timer(f, c.cursor, caixas);
+        EXPECT_EQ(f.lblLink[0].Underline, c.link0) << c.cursor.x << "," << c.cursor.y;
+        EXPECT_EQ(f.lblLink[1].Underline, c.link1) << c.cursor.x << "," << c.cursor.y;
     }
 }
 

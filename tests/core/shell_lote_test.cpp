@@ -1,6 +1,7 @@
-// tramelo-calc run as a user runs it: the sample files, JSON, and each exit
-// status.
+// tramelo-calc run as a user runs it: the sample files, JSON, each exit
+// status, and the ISO 5167-2 check of each file.
 #include "pasta_temporaria.h"
+#include "relatorio_dourado.h"
 
 #include "plataforma/cp1252.h"
 
@@ -8,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
+#include <sstream>
 #include <string>
 #include <sys/wait.h>
 
@@ -36,38 +38,83 @@ protected:
         return s;
     }
     static std::string Exemplo(const std::string& nome) { return std::string(TRAMELO_EXEMPLOS) + "/" + nome; }
+    // The air sample made an orifice plate (the first of the file's lists).
+    std::string PlacaDeAr() {
+        std::string bytes = LeBytes(Exemplo("ar.trl"));
+        const std::string restricao = "\r\n1\r\n1,  ";
+        bytes.replace(bytes.find(restricao), restricao.size(), "\r\n0\r\n1,  ");
+        GravaBytes(pasta / "ar_placa.trl", bytes);
+        return pasta / "ar_placa.trl";
+    }
 
     PastaTemporaria pasta;
 };
 
-TEST_F(ShellLote, ExemplosDeLiquidoGasEVapor) {
-    Saida s = Executa(Exemplo("agua.trl") + " " + Exemplo("ar.trl") + " " + Exemplo("vapor.trl"));
-    EXPECT_EQ(s.status, 0) << s.erros;
-    // Three exports, one empty line between them.
-    EXPECT_EQ(s.saida.find("================================= Data Sheet ================================="), 0u);
-    EXPECT_NE(s.saida.find("\n\n================================= Data Sheet"), std::string::npos);
-    EXPECT_NE(s.saida.find("Diâmetro do orifício _____________ 61,83 "), std::string::npos);
-    EXPECT_NE(s.saida.find("Cliente..........: Usina Norte\n"), std::string::npos);
-    EXPECT_NE(s.saida.find("Fluido utilizado _________________ Vapor\n"), std::string::npos);
-    EXPECT_EQ(s.saida.find('\r'), std::string::npos);
-    // The material prompt of the gas file, answered empty, on standard error.
-    EXPECT_EQ(s.erros, "Material da placa: Digite o nome do material utilizado\n");
-}
-
-TEST_F(ShellLote, Json) {
-    Saida s = Executa("--json " + Exemplo("agua.trl") + " " + pasta / "falta.trl");
+TEST_F(ShellLote, JsonComAVerificacaoIsoDeCadaArquivo) {
+    Saida s = Executa("--json " + Exemplo("agua.trl") + " " + PlacaDeAr() + " " + Exemplo("vapor.trl") +
+                      " " + pasta / "falta.trl" + " " + Exemplo("ar.trl"));
     EXPECT_EQ(s.status, 2);
     auto j = nlohmann::json::parse(s.saida);
-    ASSERT_EQ(j.size(), 2u);
+    ASSERT_EQ(j.size(), 5u);
     EXPECT_EQ(j[0]["arquivo"], Exemplo("agua.trl"));
     EXPECT_EQ(j[0]["concluido"], true);
     EXPECT_TRUE(j[0]["erro"].is_null());
     EXPECT_EQ(j[0]["linhas"][0], " ");
     EXPECT_EQ(j[0]["linhas"][3], " Fluido utilizado _________________ Liqüido");
-    EXPECT_EQ(j[1]["concluido"], false);
-    ASSERT_EQ(j[1]["mensagens"].size(), 1u);
-    EXPECT_EQ(j[1]["mensagens"][0]["texto"], "Arquivo não encontrado");
-    EXPECT_EQ(j[1]["mensagens"][0]["titulo"], pasta / "falta.trl");
+    EXPECT_EQ(j[3]["concluido"], false);
+    ASSERT_EQ(j[3]["mensagens"].size(), 1u);
+    EXPECT_EQ(j[3]["mensagens"][0]["texto"], "Arquivo não encontrado");
+    EXPECT_EQ(j[3]["mensagens"][0]["titulo"], pasta / "falta.trl");
+    // Water, flange taps: d = 61.78516 mm, C = 0.6093025 by the reference
+    // implementation, against Tramelo's 61,83 mm.
+    const auto& agua = j[0]["iso5167"];
+    EXPECT_NEAR(agua["d_mm"].get<double>(), 61.78516, 5e-6);
+    EXPECT_NEAR(agua["C"].get<double>(), 0.6093025, 5e-8);
+    EXPECT_NEAR(agua["diferenca_d_pct"].get<double>(), 0.07, 0.01);
+    ASSERT_EQ(agua["limites"].size(), 4u); // no pressure ratio for a liquid
+    const nlohmann::json D = {
+        {"nome", "D (mm)"}, {"valor", 102.26}, {"minimo", 50.0}, {"maximo", 1000.0}, {"ok", true}};
+    EXPECT_EQ(agua["limites"][1], D);
+    // Air, corner taps: expansibility and the pressure ratio come in.
+    EXPECT_LT(j[1]["iso5167"]["epsilo"].get<double>(), 1.0);
+    EXPECT_EQ(j[1]["iso5167"]["limites"][4]["nome"], "p2/p1");
+    // Steam through vena-contracta taps, a file that isn't there, a
+    // restriction orifice.
+    const std::pair<int, std::string> fora[] = {
+        {2, "A ISO 5167-2 não prevê tomadas de vena contracta."},
+        {3, "O cálculo não foi concluído."},
+        {4, "A ISO 5167-2 não se aplica a orifícios de restrição."}};
+    for (const auto& [i, motivo] : fora) {
+        const auto& iso = j[static_cast<size_t>(i)]["iso5167"];
+        EXPECT_EQ(iso["aplicavel"], false);
+        EXPECT_EQ(iso["motivo"], motivo);
+        EXPECT_TRUE(iso["d_mm"].is_null() && iso["limites"].empty());
+    }
+}
+
+// The whole text of --iso: the reports exactly as without it (liquid, gas and
+// steam, one empty line between them), each followed by its section. The air plate's section agrees with "ar placa" of
+// tests/data/iso5167/referencia.py (d 47,2055 mm, C 0,603973, eps 0,994777).
+TEST_F(ShellLote, SecaoIsoDepoisDeCadaRelatorio) {
+    const std::string arquivos = Exemplo("agua.trl") + " " + PlacaDeAr() + " " + Exemplo("ar.trl") +
+                                 " " + Exemplo("vapor.trl");
+    const std::string comIso = Executa("--iso " + arquivos).saida;
+    std::vector<std::string> linhas;
+    std::istringstream s(comIso);
+    for (std::string l; std::getline(s, l);) linhas.push_back(l);
+    ConfereDourado("iso5167_calc.txt", linhas);
+    // Taking the sections out gives the plain output back.
+    std::string resto = comIso;
+    for (size_t i; (i = resto.find("\n ISO 5167-2:2003")) != std::string::npos;) {
+        size_t fim = resto.find("\n\n=", i + 1);
+        resto.erase(i, fim == std::string::npos ? std::string::npos : fim + 1 - i);
+    }
+    const Saida semIso = Executa(arquivos);
+    EXPECT_EQ(resto, semIso.saida);
+    EXPECT_EQ(semIso.status, 0);
+    // The material prompt of each gas file, answered empty, on standard error.
+    const std::string material = "Material da placa: Digite o nome do material utilizado\n";
+    EXPECT_EQ(semIso.erros, material + material);
 }
 
 TEST_F(ShellLote, AjudaEErrosDeOpcaoEmPortugues) {
@@ -151,11 +198,6 @@ TEST_F(ShellLote, StatusDeSaida) {
                             "Arquivo: " + pasta / "texto.trl" + ": Não é um arquivo de cálculo do Tramelo\n"
                             "Arquivo: " + pasta.str() + ": É uma pasta, não um arquivo de cálculo\n");
     EXPECT_EQ(Executa(pasta / "bytes.trl").saida, "");
-
-    Saida opcao = Executa("--nada " + pasta / "vazio.trl");
-    EXPECT_EQ(opcao.status, 64);
-    EXPECT_NE(opcao.erros.find("uso: tramelo-calc"), std::string::npos);
-    EXPECT_EQ(Executa("").status, 64);
 }
 
 } // namespace

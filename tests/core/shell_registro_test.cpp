@@ -1,7 +1,8 @@
 // The settings store: key paths, roots, the read limit, typed values and the
-// files on disk.
+// files on disk; and the recent files kept in it.
 #include "pasta_temporaria.h"
 
+#include "shell/recentes.h"
 #include "shell/registro.h"
 
 #include <gtest/gtest.h>
@@ -59,10 +60,9 @@ TEST_F(ShellRegistro, RaizPelosSeisPrimeirosCaracteres) {
         const char* secao;
         uint32_t raiz;
     } casos[] = {
-        {"Config", HKEY_CURRENT_USER},        {"Config\\Menu", HKEY_CURRENT_USER},
-        {"Configuration", HKEY_CURRENT_USER}, {"config", HKEY_LOCAL_MACHINE},
-        {"CONFIG", HKEY_LOCAL_MACHINE},       {"Confi", HKEY_LOCAL_MACHINE},
-        {"FilesMRU", HKEY_LOCAL_MACHINE},     {"System", HKEY_LOCAL_MACHINE},
+        {"Config\\Menu", HKEY_CURRENT_USER}, {"Configuration", HKEY_CURRENT_USER},
+        {"config", HKEY_LOCAL_MACHINE},      {"Confi", HKEY_LOCAL_MACHINE},
+        {"System", HKEY_LOCAL_MACHINE},
     };
     // One value name a row: "Config" and "config" are one key in a root.
     int n = 0;
@@ -112,7 +112,7 @@ TEST_F(ShellRegistro, ValoresPorTipo) {
         const char* texto;
     } casos[] = {
         {REG_DWORD, std::string("\x01\x00\x00\x00", 4), "1"},
-        {REG_DWORD, std::string("\x45\x23\x01\x00", 4), "74565"}, // 0x12345
+        {REG_DWORD, std::string("\xaf\x23\x01\x00", 4), "74671"}, // 0x123af
         {REG_DWORD, std::string("\x02\x01\x00\x00", 4), "18"},    // 0x102: its inner zero is lost
         {REG_DWORD, std::string("\x00\x01\x00\x00", 4), "0"},     // a zero byte cuts the number
         {REG_DWORD, std::string("\x10\x80\x00\x00", 4), "-32752"}, // four digits: 16-bit
@@ -160,6 +160,97 @@ TEST_F(ShellRegistro, FalhasEmSilencio) {
     EXPECT_NO_THROW(GravaConfig("Config", "Barra0", "True"));
     EXPECT_FALSE(GravaChave(HKEY_CURRENT_USER, ChaveDaSecao("Config"), "Barra0", "True"));
     EXPECT_EQ(LeConfig("Config", "Barra0"), "");
+}
+
+using Lista = std::array<std::string, 4>;
+
+TEST(ShellRecentes, AdicionaMRU) {
+    auto& f = FilesMRU();
+    f = {};
+    AdicionaMRU(""); // nothing to add
+    EXPECT_EQ(f, Lista{});
+    AdicionaMRU("/a/1.trl");
+    AdicionaMRU("/A/1.TRL"); // the same file twice, in other case: the first spelling stays
+    EXPECT_EQ(f, (Lista{"/a/1.trl", "", "", ""}));
+    AdicionaMRU("/a/2.trl");
+    AdicionaMRU("/a/3.trl");
+    AdicionaMRU("/a/4.trl");
+    EXPECT_EQ(f, (Lista{"/a/4.trl", "/a/3.trl", "/a/2.trl", "/a/1.trl"}));
+    AdicionaMRU("/a/2.trl"); // place 3 to the top; place 4 keeps its entry
+    EXPECT_EQ(f, (Lista{"/a/2.trl", "/a/4.trl", "/a/3.trl", "/a/1.trl"}));
+    AdicionaMRU("/A/4.TRL"); // place 2, in other case: to the top with the new spelling
+    EXPECT_EQ(f, (Lista{"/A/4.TRL", "/a/2.trl", "/a/3.trl", "/a/1.trl"}));
+    AdicionaMRU("/a/1.trl"); // place 4: it moves up as a new file would
+    EXPECT_EQ(f, (Lista{"/a/1.trl", "/A/4.TRL", "/a/2.trl", "/a/3.trl"}));
+    AdicionaMRU("/a/5.trl"); // a fifth: the file at place 4 is gone
+    EXPECT_EQ(f, (Lista{"/a/5.trl", "/a/1.trl", "/A/4.TRL", "/a/2.trl"}));
+    AdicionaMRU("/home/JOÃO/a.trl");
+    AdicionaMRU("/home/joão/A.trl"); // case ignored in accented letters too
+    EXPECT_EQ(f[0], "/home/JOÃO/a.trl");
+    EXPECT_EQ(f[1], "/a/5.trl");
+}
+
+TEST(ShellRecentes, EncurtaCaminho) {
+    const struct {
+        const char* caminho;
+        const char* legenda;
+    } casos[] = {
+        // 30 characters show whole, their case untouched; 31 are shortened.
+        {"/HOME/ANA/CALCULOS/AGUA123.TRL", "/HOME/ANA/CALCULOS/AGUA123.TRL"},
+        // A path from the root shortens from its first folder; its "/" stays.
+        {"/home/ana/calculos/agua1234.trl", "/Home/Ana/Cal../agua1234.trl"},
+        {"/home/ana/Projetos/medicoes/a.trl", "/Home/Ana/Pro../Med../a.trl"},
+        // The worked example, with "/" for separator.
+        {"C:/Arquivos de programas/Saves/a.trl", "C:/Arq../Saves/a.trl"},
+        // A folder name of 5 characters stays whole, 6 become 3 and "../";
+        // capitals go to proper case; the file name stands as it is.
+        {"/mnt/DADOS/PLANTA/calculo-01.trl", "/Mnt/Dados/Pla../calculo-01.trl"},
+        // Words begin after blanks only; accented letters change case too.
+        {"/srv/o meu projeto/calculo-final.trl", "/Srv/O M../calculo-final.trl"},
+        {"/srv/ÁGUA/PASTA-NOVA/medições-2024.trl", "/Srv/Água/Pas../medições-2024.trl"},
+        {"/srv/água fria/ética/medições-2024.trl", "/Srv/Águ../Ética/medições-2024.trl"},
+        {"/srv/ab-cd/2abcd/calculo-final-01.trl", "/Srv/Ab-cd/2abcd/calculo-final-01.trl"},
+        // No separator after the first 3 characters: only the rest.
+        {"sem-separador-nenhum-com-31-car", "sem-separador-nenhum-com-31-car"},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(EncurtaCaminho(c.caminho), c.legenda) << c.caminho;
+}
+
+TEST(ShellRecentes, AtualizaMRU) {
+    FilesMRU() = {};
+    MenuRecentes menu;
+    AtualizaMRU(menu);
+    EXPECT_FALSE(menu.mnuArquivoMRU[0].Visible || menu.mnuArquivoMRU[3].Visible);
+    EXPECT_TRUE(menu.mnuArquivoMRUVazio.Visible);
+
+    FilesMRU() = {"C:/Arquivos de programas/Saves/a.trl", "/x/b.trl", "", ""};
+    AtualizaMRU(menu);
+    EXPECT_EQ(menu.mnuArquivoMRU[0].Caption, "&1 C:/Arq../Saves/a.trl");
+    EXPECT_EQ(menu.mnuArquivoMRU[1].Caption, "&2 /x/b.trl");
+    EXPECT_EQ(menu.mnuArquivoMRU[2].Caption, "&3 ");
+    EXPECT_TRUE(menu.mnuArquivoMRU[1].Visible);
+    EXPECT_FALSE(menu.mnuArquivoMRU[2].Visible);
+    EXPECT_FALSE(menu.mnuArquivoMRUVazio.Visible);
+}
+
+TEST_F(ShellRegistro, CarregaEGravaMRU) {
+    FilesMRU() = {"/x/1.trl", "/x/2.trl", "", ""};
+    GravaMRU();
+    // Values " 1" and " 2" of the machine's section; nothing for the empties.
+    EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, ChaveDaSecao("FilesMRU"), " 2"), "/x/2.trl");
+    EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, ChaveDaSecao("FilesMRU"), "2"), "");
+    EXPECT_EQ(LeBytes(pasta / "dados/registro-maquina.json").find("\" 3\""), std::string::npos);
+    FilesMRU() = {};
+    CarregaMRU();
+    EXPECT_EQ(FilesMRU(), (Lista{"/x/1.trl", "/x/2.trl", "", ""}));
+
+    // Storing stops at the first empty entry: what stood behind it stays.
+    GravaConfig("FilesMRU", " 4", "/velho.trl");
+    FilesMRU() = {"/y/1.trl", "", "/y/3.trl", ""};
+    GravaMRU();
+    CarregaMRU();
+    EXPECT_EQ(FilesMRU(), (Lista{"/y/1.trl", "/x/2.trl", "", "/velho.trl"}));
 }
 
 } // namespace
