@@ -24,21 +24,12 @@ namespace tramelo::teste {
 namespace fs = std::filesystem;
 namespace {
 
-std::string LeLinha(int fd, int ms) {
+// The first line a child writes to the pipe: a display number, a bus address.
+// Empty if the child ends without one.
+std::string LeLinha(int fd) {
     std::string s;
-    const auto fim = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
     char c;
-    while (std::chrono::steady_clock::now() < fim) {
-        const ssize_t n = read(fd, &c, 1);
-        if (n == 1) {
-            if (c == '\n') break;
-            s += c;
-        } else if (n == 0) {
-            break;
-        } else {
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
-    }
+    while (read(fd, &c, 1) == 1 && c != '\n') s += c;
     return s;
 }
 
@@ -117,7 +108,7 @@ SessaoX::SessaoX(const std::string& programa, const std::string& dicas) {
                    "-noreset"},
                   p[1], Caminho("xvfb.log"));
     close(p[1]);
-    const std::string numero = LeLinha(p[0], 15000);
+    const std::string numero = LeLinha(p[0]);
     close(p[0]);
     if (numero.empty()) throw std::runtime_error("Xvfb did not start");
     display_ = ":" + numero;
@@ -127,7 +118,7 @@ SessaoX::SessaoX(const std::string& programa, const std::string& dicas) {
     dbus_ = Lanca({"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=3"},
                   p[1], Caminho("dbus.log"));
     close(p[1]);
-    const std::string endereco = LeLinha(p[0], 10000);
+    const std::string endereco = LeLinha(p[0]);
     close(p[0]);
     if (endereco.empty()) throw std::runtime_error("dbus-daemon did not start");
     setenv("DBUS_SESSION_BUS_ADDRESS", endereco.c_str(), 1);
@@ -214,20 +205,14 @@ std::vector<No> SessaoX::Arvore() const {
         std::istringstream l(linha);
         while (std::getline(l, campo, '\t')) c.push_back(campo);
         if (c.size() < 7) continue;
-        No n;
-        n.nivel = std::atoi(c[0].c_str());
-        n.papel = c[1];
-        n.nome = c[2];
-        n.x = std::atoi(c[3].c_str());
-        n.y = std::atoi(c[4].c_str());
-        n.w = std::atoi(c[5].c_str());
-        n.h = std::atoi(c[6].c_str());
+        No n{std::atoi(c[0].c_str()), c[1], c[2], c.size() > 8 ? c[8] : "",
+             std::atoi(c[3].c_str()), std::atoi(c[4].c_str()), std::atoi(c[5].c_str()),
+             std::atoi(c[6].c_str())};
         const std::string f = c.size() > 7 ? c[7] : "";
         n.visivel = f.find('S') != std::string::npos;
         n.ativo = f.find('A') != std::string::npos;
         n.focado = f.find('F') != std::string::npos;
         n.marcado = f.find('C') != std::string::npos;
-        if (c.size() > 8) n.texto = c[8];
         nos.push_back(n);
     }
     return nos;
