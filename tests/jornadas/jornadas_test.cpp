@@ -220,6 +220,20 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
     ASSERT_TRUE(CalculadoraAtiva());
     x.Clica(campo->x - 20, campo->cy());
     EXPECT_TRUE(x.EsperaSumir("label", "56,", 5000));
+    // A paste passes the field's filter; the calculator can't type "7/2" in,
+    // says so, and leaves the field as it is.
+    x.Comando("printf 7/2 | xclip -selection clipboard > /dev/null 2>&1");
+    x.Clica(campo->cx(), campo->cy());
+    x.Tecla("ctrl+a ctrl+v");
+    x.DuploClique(campo->cx(), campo->cy());
+    ASSERT_TRUE(x.Espera("push button", "OK", 5000));
+    EXPECT_NE(x.Comando("xdotool search --name 'Código :13'"), "");
+    x.Tecla("Return");
+    ASSERT_TRUE(x.EsperaSumir("push button", "OK", 5000));
+    EXPECT_EQ(x.Espera("text", "Vazão de projeto", 3000)->texto, "7/2");
+    x.Clica(campo->cx(), campo->cy());
+    x.Tecla("ctrl+a");
+    x.Digita("56");
     // The field's text, read back as a person would: copied.
     x.Clica(campo->cx(), campo->cy());
     x.Tecla("ctrl+a ctrl+c");
