@@ -1,6 +1,6 @@
 // The calculation file and the life of its window: the example byte for byte,
 // round trips, the failure table, the handlers that run while a file loads,
-// numbering, names from folder and caption, and the question on close.
+// numbering, and the question on close.
 #include "calculo_pronto.h"
 #include "dialogos_roteiro.h"
 #include "pasta_temporaria.h"
@@ -52,15 +52,6 @@ class DocumentArquivo : public ::testing::Test {
         auto f = std::make_unique<FrmCalcTramelo>();
         Form_Load(*f);
         TrameloOpen(*f, arquivo);
-        return f;
-    }
-
-    // A calculation window ready to be saved: the three selections made.
-    FrmCalcTramelo& Novo() {
-        FrmCalcTramelo& f = *AbreCalculo(false, std::string());
-        f.cboTramelo.DefineListIndex(0);
-        f.cboFluido.DefineListIndex(0);
-        f.cboTomada.DefineListIndex(0);
         return f;
     }
 
@@ -190,7 +181,7 @@ TEST_F(DocumentArquivo, EfeitosDosTratadoresNaCarga) {
 TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     FrmCalcTramelo* a = AbreCalculo(false, std::string());
     FrmCalcTramelo* b = AbreCalculo(false, std::string());
-    AbreCalculo(false, std::string());
+    FrmCalcTramelo* c = AbreCalculo(false, std::string());
     EXPECT_EQ(a->Caption, "Cálculo 1");
     EXPECT_EQ(a->ArquivoCalculo, modBase().PastaSaves + "/Cálculo 1");
     EXPECT_TRUE(DescarregaCalculo(*b)); // nothing to save: no question
@@ -201,39 +192,16 @@ TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     EXPECT_TRUE(a->Alterado());
     EXPECT_TRUE(DescarregaCalculo(*a));
     EXPECT_TRUE(caixas.mostradas.empty());
-}
-
-TEST_F(DocumentArquivo, NomesDerivadosDePastaELegenda) {
-    FrmCalcTramelo& f = Novo();
-    // A new one saved through the dialog elsewhere keeps its caption and
-    // stays file-less: "Salvar" asks again.
-    const std::string fora = pasta / "fora";
-    CriaPasta(fora);
-    dialogos.nomes = {fora + "/b.trl"};
-    mnuArquivoSalvar_Click(f);
-    EXPECT_EQ(f.Caption, "Cálculo 1");
-    EXPECT_FALSE(f.ArquivoExiste);
-
-    // Opened from another folder: the first Atualiza keeps the whole path
-    // behind the folder, the activation that follows only the name.
-    FrmCalcTramelo& aberto = CarregaCalculo();
-    TrameloOpen(aberto, fora + "/b.trl");
-    EXPECT_EQ(aberto.Caption, "b.trl");
-    EXPECT_EQ(aberto.ArquivoCalculo, modBase().PastaSaves + "/" + fora + "/b.trl");
-    DescarregaCalculo(aberto);
-    FrmCalcTramelo& g = *AbreCalculo(true, fora + "/b.trl");
-    EXPECT_EQ(g.ArquivoCalculo, modBase().PastaSaves + "/b.trl");
-    // "Salvar" writes into the program's folder; the file it came from stays.
-    const std::string antes = LeBytes(fora + "/b.trl");
-    g.txtTag.DefineTexto("novo");
-    mnuArquivoSalvar_Click(g);
-    EXPECT_EQ(LeBytes(fora + "/b.trl"), antes);
-    EXPECT_TRUE(ExisteArquivo(modBase().PastaSaves + "/b.trl"));
-    EXPECT_EQ(dialogos.mostrados.size(), 1u); // no dialog for an opened file
+    // With the tag on, the question, Yes/No/Cancel with its mark; Cancel keeps it.
+    caixas.respostas = {vbCancel};
+    for (CaixaCombinacao* l : {&c->cboTramelo, &c->cboFluido, &c->cboTomada}) l->DefineListIndex(0);
+    EXPECT_FALSE(DescarregaCalculo(*c));
+    EXPECT_EQ(caixas.mostradas.back().estilo, vbYesNoCancel + vbQuestion);
 }
 
 TEST_F(DocumentArquivo, TrameloLimpaEsvaziaODocumento) {
-    FrmCalcTramelo& f = Novo();
+    FrmCalcTramelo& f = *AbreCalculo(false, std::string());
+    for (CaixaCombinacao* c : {&f.cboTramelo, &f.cboFluido, &f.cboTomada}) c->DefineListIndex(0);
     f.txtTag.DefineTexto("FT");
     f.txtDados(2)->DefineTexto("50");
     f.cboDados(5)->DefineListIndex(2);

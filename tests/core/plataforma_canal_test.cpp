@@ -84,9 +84,8 @@ TEST_F(PlataformaCanal, ItensEscritosENumeroDoItem) {
     };
     for (const auto& [item, forma] : formas) EXPECT_EQ(item.FormaEscrita(), forma);
     const std::pair<const char*, int> numeros[] = { // -1: failure 6
-        {"0", 0},         {"29", 29},         {" 1 2 ", 12},  {"2.5", 2},   {"3.5", 4},
-        {"-7", -7},       {"1,5", 1},         {"abc", 0},     {"", 0},      {"0abc", 0},
-        {"32767", 32767}, {"-32768", -32768}, {"32768", -1},  {"1E5", -1},  {"&H10", 16},
+        {"29", 29},   {" 1 2 ", 12},    {"2.5", 2},      {"3.5", 4},   {"-7", -7},  {"1,5", 1},
+        {"0abc", 0},  {"32767", 32767}, {"-32768", -32768}, {"32768", -1}, {"1E5", -1}, {"&H10", 16},
     };
     for (const auto& [item, numero] : numeros) {
         if (numero == -1) EXPECT_EQ(NumeroDaFalha([&] { NumeroDoItem(item); }), 6) << item;
@@ -106,6 +105,13 @@ TEST_F(PlataformaCanal, UmArquivoDeCadaVezEFalhasAoAbrir) {
     canal1().AbreEntrada(Nome("a.trl"));
     EXPECT_EQ(NumeroDaFalha([&] { canal1().AbreSaida(Nome("a.trl")); }), 55);
     EXPECT_EQ(canal1().LeItem(), "a");
+    canal1().Fecha();
+    // Whole lines end at CR LF, a lone CR or a lone LF.
+    GravaBytes(Nome("b.trl"), "a\r\nb\rc\n\nd\r");
+    canal1().AbreEntrada(Nome("b.trl"));
+    std::string linhas;
+    while (!canal1().Eof()) linhas += canal1().LeLinha() + "|";
+    EXPECT_EQ(linhas, "a|b|c||d|");
     canal1().Fecha();
     canal1().Fecha(); // closing a free channel does nothing
     EXPECT_EQ(NumeroDaFalha([] { canal1().LeItem(); }), 52);

@@ -7,10 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <charconv>
 #include <cmath>
-#include <cstdint>
-#include <cstring>
 #include <functional>
 #include <tuple>
 
@@ -85,29 +82,6 @@ TEST(PlataformaNumero, ValCIntEAritmetica) {
     EXPECT_EQ(std::tuple(Pot(-2, 2).valor(), Pot(0, 2.5).valor(), Variante().Numero().valor()),
               std::tuple(4, 0, 0));
     EXPECT_EQ(Variante(12.5).Texto(), "12,5");
-}
-
-// The default text form against the exact rounding to 15 digits, over many
-// doubles of every magnitude, ties included.
-TEST(PlataformaNumero, QuinzeDigitosComoOArredondamentoExato) {
-    uint64_t estado = 88172645463325252ull;
-    for (int i = 0; i < 200000; ++i) {
-        estado ^= estado << 13;
-        estado ^= estado >> 7;
-        estado ^= estado << 17;
-        double x;
-        if (i % 4 == 0) x = static_cast<double>(estado % 100000000000000000ull) / 100; // ties
-        else {
-            uint64_t bits = (estado & 0x000FFFFFFFFFFFFFull) | (uint64_t{1000 + estado % 100} << 52);
-            std::memcpy(&x, &bits, sizeof x);
-        }
-        char buf[64];
-        double exato = 0;
-        auto fim = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::scientific, 14).ptr;
-        std::from_chars(buf, fim, exato);
-        const std::string texto = NumeroParaTexto(x);
-        ASSERT_EQ(TextoParaNumero(texto), exato) << texto;
-    }
 }
 
 } // namespace

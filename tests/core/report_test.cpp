@@ -98,9 +98,11 @@ TEST(Report, SegundaPaginaIso) {
     struct ImpressoraPaginas : Impressora {
         Impressora* anterior = std::exchange(impressoraInstalada(), this);
         ~ImpressoraPaginas() override { impressoraInstalada() = anterior; }
-        std::vector<std::string> saida;
+        std::vector<std::string> saida, fontes;
         void DefineCopias(int) override {}
-        void DefineFonte(const std::string&, int, bool) override {}
+        void DefineFonte(const std::string& n, int t, bool negrito) override {
+            fontes.push_back(n + " " + std::to_string(t) + (negrito ? " negrito" : ""));
+        }
         void ImprimeLinha(const std::vector<PecaLinha>& pecas) override {
             saida.emplace_back();
             for (const PecaLinha& p : pecas) saida.back() += p.texto;
@@ -129,6 +131,7 @@ TEST(Report, SegundaPaginaIso) {
         auto pagina = std::find(s.begin(), s.end(), "<nova página>");
         ASSERT_EQ(pagina != s.end(), temPagina);
         EXPECT_EQ(s.back(), "<fim>");
+        EXPECT_EQ(impressora.fontes.at(1), "Courier New 10"); // the body isn't bold
         if (!temPagina) continue;
         // After the report's last line: the title, the header fields, the lines.
         EXPECT_EQ(*(pagina - 1), " linha do relatório");
