@@ -192,20 +192,6 @@ TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     EXPECT_EQ(caixas.mostradas.back().estilo, vbYesNoCancel + vbQuestion);
 }
 
-TEST_F(DocumentArquivo, TrameloLimpaEsvaziaODocumento) {
-    FrmCalcTramelo& f = *AbreCalculo(false, std::string());
-    for (CaixaCombinacao* c : {&f.cboTramelo, &f.cboFluido, &f.cboTomada}) c->DefineListIndex(0);
-    f.txtTag.DefineTexto("FT");
-    f.txtDados(2)->DefineTexto("50");
-    f.cboDados(5)->DefineListIndex(2);
-    f.TextoCliente = "Cliente";
-    TrameloLimpa(f);
-    EXPECT_EQ(f.txtTag.Text() + f.txtDados(2)->Text(), "");
-    EXPECT_EQ(f.cboDados(5)->ListIndex(), 0);
-    EXPECT_EQ(f.cboFluido.ListIndex() + f.cboTramelo.ListIndex(), -2);
-    EXPECT_TRUE(f.Relatorio->txtCliente.empty() && f.Relatorio->txtData != "Abrindo");
-}
-
 // The report's header fields flow back into the calculation on activation.
 TEST(DocumentAtivacao, CabecalhoDoRelatorioVolta) {
     auto f = Escolhido();

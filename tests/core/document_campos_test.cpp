@@ -273,18 +273,6 @@ TEST(DocumentEntrada, FiltroDeTeclas) {
     }
 }
 
-TEST(DocumentEntrada, FatorDoAcoInox) {
-    // (T - 20) * 3,4E-05 + 1, for stainless steel only.
-    const std::pair<const char*, const char*> casos[] = {
-        {"20", "1"}, {"120", "1,0034"}, {"-30", "0,9983"}, {"", ""}, {"abc", ""}};
-    auto f = Escolhido(1);
-    for (const auto& [temperatura, fator] : casos) {
-        f->txtDados(29)->DefineTexto("velho");
-        f->txtDados(9)->DefineTexto(temperatura);
-        EXPECT_EQ(f->txtDados(29)->Text(), fator) << temperatura;
-    }
-}
-
 // A row that gets the focus out of sight scrolls in: above the view it
 // becomes the first row in sight, below it the last (9 in sight).
 TEST(DocumentEntrada, RolagemSegueOFoco) {

@@ -56,6 +56,7 @@ TEST(PlataformaNumero, NumeroParaTexto) {
         {101.325249795, "101,325249795"},                       {1e100, "1E+100"},
         {15000.000000000002, "15000"}, {1.00051, "1,00051"},    {0.99999999999999989, "1"},
         {9.9999999999999995e-5, "0,0001"}, {1e-10, "1E-10"}, // a two-digit exponent: no zero
+        {7.408655322280855, "7,40865532228085"}, // a tie in its shortest text, below in fact
         {HUGE_VAL, "1,#INF"}, {-HUGE_VAL, "-1,#INF"}, {std::nan(""), "-1,#IND"}, // never made
     };
     for (const auto& [valor, texto] : casos) EXPECT_EQ(NumeroParaTexto(valor), texto) << texto;
