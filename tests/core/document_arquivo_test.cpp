@@ -192,22 +192,5 @@ TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     EXPECT_EQ(caixas.mostradas.back().estilo, vbYesNoCancel + vbQuestion);
 }
 
-// The report's header fields flow back into the calculation on activation.
-TEST(DocumentAtivacao, CabecalhoDoRelatorioVolta) {
-    auto f = Escolhido();
-    f->DefineAlterado(false);
-    f->Relatorio->txtOS = "OS-7";
-    Form_Activate(*f); // "Abrindo": never initialised
-    EXPECT_FALSE(f->Alterado());
-    f->Relatorio->txtData = "10:00 - 01/02/2003";
-    f->Relatorio->txtCliente = "Quillon";
-    Form_Activate(*f);
-    EXPECT_TRUE(f->Alterado());
-    EXPECT_EQ(f->TextoData + f->TextoOS + f->TextoCliente, "10:00 - 01/02/2003OS-7Quillon");
-    f->DefineAlterado(false);
-    Form_Activate(*f); // all three alike
-    EXPECT_FALSE(f->Alterado());
-}
-
 } // namespace
 } // namespace tramelo::teste

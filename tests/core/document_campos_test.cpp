@@ -180,7 +180,6 @@ TEST(DocumentSelecoes, NomeDoFluido) {
 TEST(DocumentSelecoes, OrdemDasEscolhasEListaDeDados) {
     CaixasRoteiro caixas;
     auto f = Carregado();
-    EXPECT_TRUE(f->cboTramelo.ListCount() == 2 && f->cboTomada.ListCount() == 4); // no "Pipe Taps"
     EXPECT_FALSE(f->cboFluido.Enabled || f->cboTomada.Enabled);
     f->cboTramelo.DefineListIndex(1);
     EXPECT_TRUE(f->Placa == 2 && f->cboFluido.Enabled && f->lblFluido.Enabled);
