@@ -35,14 +35,13 @@ SaidaOperador Teclas(Calculadora& c, const std::string& teclas) {
 }
 
 TEST(CalculatorTeclas, SequenciasTrabalhadas) {
-    struct Caso {
-        const char *teclas, *display;
-        const char* resultado; // what leaves on "=", or nullptr
+    // What leaves on "=" (or nullptr), then the machine's state and the boxes shown.
+    const struct {
+        const char *teclas, *display, *resultado;
         short qtd;
         const char *pendente, *ultima;
-        size_t caixas; // "Não é possível dividir por zero" boxes shown
-    };
-    const Caso casos[] = {
+        size_t caixas;
+    } casos[] = {
         // Typing numbers: a whole number keeps its separator at the end.
         {"", "0,", nullptr, 0, " ", "NONE", 0}, {",5", "0,5", nullptr, 0, " ", "NUMS", 0},
         {"007", "007,", nullptr, 0, " ", "NUMS", 0},
@@ -65,7 +64,7 @@ TEST(CalculatorTeclas, SequenciasTrabalhadas) {
         {"5+E3=", "8", "8", 1, "=", "OPS", 0}, {"5+3E", "0,", nullptr, 1, "+", "CE", 0},
         {"5+3C7=", "7,", "7,", 1, "=", "OPS", 0},
     };
-    for (const Caso& k : casos) {
+    for (const auto& k : casos) {
         SCOPED_TRACE(k.teclas);
         teste::CaixasRoteiro caixas;
         Calculadora c;

@@ -16,17 +16,12 @@ namespace {
 TEST(DocumentCampos, LeiauteDosTresFluidos) {
     // Rows 0, 2, 4 and 5 stand as built; row 1 is the density mode, placed
     // just above the first row in use from 17 on.
-    struct Caso {
-        int fluido;
-        std::vector<int> ordem;
-        int Max;
-    };
-    const Caso casos[] = {
+    const struct { int fluido; std::vector<int> ordem; int Max; } casos[] = {
         {0, {0, 2, 4, 5, 8, 9, 1, 17, 18, 20, 28, 29}, 3},
         {1, {0, 2, 4, 5, 8, 9, 10, 12, 14, 16, 1, 17, 19, 20, 25, 26, 27, 28, 29}, 10},
         {2, {0, 2, 4, 5, 9, 12, 1, 18, 20, 27, 28, 29}, 3},
     };
-    for (const Caso& c : casos) {
+    for (const auto& c : casos) {
         SCOPED_TRACE(c.fluido);
         CaixasRoteiro caixas;
         auto f = Escolhido(c.fluido);
@@ -69,20 +64,19 @@ TEST(DocumentCampos, ModoDeDensidadePeloFluido) {
 TEST(DocumentCampos, TrocaDeFluidoMantemListaDeVazaoPeloTamanho) {
     // A list of the right length keeps its unit, and the rows that follow from
     // it aren't worked out again.
-    struct Caso {
+    // The flow unit chosen after the first fluid (-1 for none); rows of 8, 10, 17, 25 in use.
+    const struct {
         const char* caminho;
         std::vector<int> fluidos;
-        int unidadeAntes; // flow unit chosen after the first fluid, -1 for none
-        int indiceVazao, itensVazao;
-        std::set<int> emUso; // of rows 8, 10, 17, 25
-    };
-    const Caso casos[] = {
+        int unidadeAntes, indiceVazao, itensVazao;
+        std::set<int> emUso;
+    } casos[] = {
         {"líquido em M³/h para gás", {0, 1}, -1, 0, 3, {8, 10, 25}},
         {"líquido em Kg/h para gás", {0, 1}, 1, 1, 3, {8, 10, 25}},
         {"gás para vapor", {1, 2}, -1, 0, 2, {}},
         {"vapor em T/h para líquido", {2, 0}, 1, 0, 3, {8, 17}},
     };
-    for (const Caso& c : casos) {
+    for (const auto& c : casos) {
         SCOPED_TRACE(c.caminho);
         CaixasRoteiro caixas;
         auto f = Escolhido(c.fluidos[0]);
