@@ -116,12 +116,6 @@ TEST(CalculatorTeclas, ColaDigitaOTextoDoCampo) {
         EXPECT_EQ(erro, falha ? std::optional(ErroExecucao{13, "Tipos incompatíveis"})
                               : std::nullopt);
     }
-    // A field holding "12,5", then +, 1, = writes "13,5" back.
-    Calculadora c;
-    Form_Load(c);
-    Cola(c, "12,5");
-    for (char k : {'+', '1'}) Tecla(c, k);
-    EXPECT_EQ(Tecla(c, '=').resultado, std::optional<std::string>("13,5"));
 }
 
 TEST(CalculadoraTeclas, AbreSobOuSobreOCampo) {

@@ -270,13 +270,10 @@ TEST(DocumentEntrada, FiltroDeTeclas) {
 // becomes the first row in sight, below it the last (9 in sight).
 TEST(DocumentEntrada, RolagemSegueOFoco) {
     auto f = Escolhido(1); // gas: rows 29, 20, 19, 9, 8 and 1 at 18, 13, 12, 5, 4 and 10
-    struct Passo {
-        char tipo; // 't' a row's text, 'c' its list, 'g' the tag, 'm' the density mode
-        int linha, valor;
-    };
-    const Passo passos[] = {{'t', 29, 10}, {'t', 20, 10}, {'t', 8, 4}, {'c', 19, 4},
+    // 't' a row's text, 'c' its list, 'g' the tag, 'm' the density mode.
+    const struct { char tipo; int linha, valor; } passos[] = {{'t', 29, 10}, {'t', 20, 10}, {'t', 8, 4}, {'c', 19, 4},
                             {'t', 20, 5},  {'c', 9, 5},   {'g', 0, 0}, {'m', 0, 2}};
-    for (const Passo& p : passos) {
+    for (const auto& p : passos) {
         if (p.tipo == 't') txtDados_GotFocus(*f, p.linha);
         if (p.tipo == 'c') cboDados_GotFocus(*f, p.linha);
         if (p.tipo == 'g') txtTag_GotFocus(*f);

@@ -45,11 +45,8 @@ class PlataformaCanal : public ::testing::Test {
 };
 
 TEST_F(PlataformaCanal, LeituraDeItens) {
-    struct Caso {
-        std::string bytes;
-        std::vector<std::string> itens; // "#62": that read failed at the end of the file
-    };
-    const Caso casos[] = {
+    // "#62": that read failed at the end of the file.
+    const struct { std::string bytes; std::vector<std::string> itens; } casos[] = {
         {"\"\"\r\n\"\"\r\n", {"", ""}},
         // a quote inside a tag ends it; the rest up to the line end is dropped
         {"\"FT-\"23\"01\"\r\n2,\"1200\",0\r\n", {"FT-", "2", "1200", "0"}},
@@ -62,7 +59,7 @@ TEST_F(PlataformaCanal, LeituraDeItens) {
         {"\"a\r\nb\",c\r\n", {"a\r\nb", "c"}}, {"\"sem fim\r\nx", {"sem fim\r\nx"}},
         {"", {}}, {" \r\n \r\n", {"#62"}}, {"1\r\n\r\n", {"1", "#62"}},
     };
-    for (const Caso& c : casos) {
+    for (const auto& c : casos) {
         SCOPED_TRACE(c.bytes);
         GravaBytes(Nome("x.trl"), c.bytes);
         canal1().AbreEntrada(Nome("x.trl"));

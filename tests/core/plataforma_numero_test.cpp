@@ -82,7 +82,6 @@ TEST(PlataformaNumero, ValCIntEAritmetica) {
     for (const auto& [passo, numero] : falhas) EXPECT_EQ(NumeroDaFalha(passo), numero);
     EXPECT_EQ(std::tuple(Pot(-2, 2).valor(), Pot(0, 2.5).valor(), Variante().Numero().valor()),
               std::tuple(4, 0, 0));
-    EXPECT_EQ(Variante(12.5).Texto(), "12,5");
 }
 
 } // namespace
