@@ -156,14 +156,6 @@ TEST_F(DocumentArquivo, EfeitosDosTratadoresNaCarga) {
     bool ok = false;
     TrameloSave(*f, true, ok);
     EXPECT_NE(LeBytes(pasta / "a.trl").find("29,\"1,5\",0\r\n"), std::string::npos);
-
-    // Row 29 with "Outro material" asks for the material's name while loading.
-    GravaBytes(pasta / "b.trl", ParaCp1252(cabeca + "\"\"\r\n29,\"1,2\",1\r\n"));
-    caixas.textos = {"Latão"};
-    auto g = Abre(pasta / "b.trl");
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].titulo, "Material da placa");
-    EXPECT_EQ(g->txtDados(29)->Text(), "1,2");
 }
 
 TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {

@@ -121,12 +121,6 @@ TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     EXPECT_TRUE(LinhaEmUso(*f, 25));
     EXPECT_TRUE(f->lblDados(25)->Enabled && f->txtDados(25)->Enabled);
 
-    // A row out of use keeps its text for when it comes back.
-    f->txtDados(18)->DefineTexto("998");
-    CampoDados(*f, 18, false);
-    EXPECT_FALSE(f->txtDados(18)->Enabled);
-    CampoDados(*f, 18, true);
-    EXPECT_EQ(f->txtDados(18)->Text(), "998");
 
     // On a disabled list a row goes in use with its controls off.
     Lista(*f, false);

@@ -26,7 +26,6 @@
 #include <functional>
 #include <random>
 #include <set>
-#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 

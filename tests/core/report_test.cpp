@@ -15,9 +15,6 @@
 
 #include <algorithm>
 #include <tuple>
-#include <utility>
-#include <string>
-#include <vector>
 
 namespace tramelo::teste {
 namespace {
