@@ -177,6 +177,12 @@ TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     for (CaixaCombinacao* l : {&c->cboTramelo, &c->cboFluido, &c->cboTomada}) l->DefineListIndex(0);
     EXPECT_FALSE(DescarregaCalculo(*c));
     EXPECT_EQ(caixas.mostradas.back().estilo, vbYesNoCancel + vbQuestion);
+    // The report's header, once set, flows back on activation as a change.
+    c->DefineAlterado(false);
+    c->Relatorio->txtData = "10:00";
+    c->Relatorio->txtOS = "OS-7";
+    Form_Activate(*c);
+    EXPECT_TRUE(c->Alterado() && c->TextoData + c->TextoOS == "10:00OS-7");
 }
 
 } // namespace

@@ -43,7 +43,6 @@ TEST(PlataformaNumero, TextoParaNumero) {
     };
     for (const auto& [texto, numero] : falhas)
         EXPECT_EQ(NumeroDaFalha([&] { TextoParaNumero(texto); }), numero) << texto;
-    EXPECT_EQ(DescricaoFalha(13), "Tipos incompatíveis");
 }
 
 TEST(PlataformaNumero, NumeroParaTexto) {
