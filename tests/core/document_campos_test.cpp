@@ -265,8 +265,9 @@ TEST(DocumentEntrada, FiltroDeTeclas) {
 TEST(DocumentEntrada, RolagemSegueOFoco) {
     auto f = Escolhido(1); // gas: rows 29, 20, 19, 9, 8 and 1 at 18, 13, 12, 5, 4 and 10
     // 't' a row's text, 'c' its list, 'g' the tag, 'm' the density mode.
-    const struct { char tipo; int linha, valor; } passos[] = {{'t', 29, 10}, {'t', 20, 10}, {'t', 8, 4}, {'c', 19, 4},
-                            {'t', 20, 5},  {'c', 9, 5},   {'g', 0, 0}, {'m', 0, 2}};
+    const struct { char tipo; int linha, valor; } passos[] = {
+        {'t', 29, 10}, {'t', 20, 10}, {'t', 8, 4}, {'c', 19, 4},
+        {'t', 20, 5},  {'c', 9, 5},   {'g', 0, 0}, {'m', 0, 2}};
     for (const auto& p : passos) {
         if (p.tipo == 't') txtDados_GotFocus(*f, p.linha);
         if (p.tipo == 'c') cboDados_GotFocus(*f, p.linha);

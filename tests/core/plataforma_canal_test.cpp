@@ -80,8 +80,8 @@ TEST_F(PlataformaCanal, ItensEscritosENumeroDoItem) {
     };
     for (const auto& [item, forma] : formas) EXPECT_EQ(item.FormaEscrita(), forma);
     const std::pair<const char*, int> numeros[] = { // -1: failure 6
-        {"29", 29},   {" 1 2 ", 12},    {"2.5", 2},      {"3.5", 4},   {"-7", -7},  {"1,5", 1},
-        {"0abc", 0},  {"32767", 32767}, {"-32768", -32768}, {"32768", -1}, {"1E5", -1}, {"&H10", 16},
+        {"29", 29},  {" 1 2 ", 12},    {"2.5", 2},        {"3.5", 4},     {"-7", -7},  {"1,5", 1},
+        {"0abc", 0}, {"32767", 32767}, {"-32768", -32768}, {"32768", -1}, {"1E5", -1}, {"&H10", 16},
     };
     for (const auto& [item, numero] : numeros) {
         if (numero == -1) EXPECT_EQ(NumeroDaFalha([&] { NumeroDoItem(item); }), 6) << item;
