@@ -35,29 +35,25 @@ SaidaOperador Teclas(Calculadora& c, const std::string& teclas) {
 }
 
 TEST(CalculatorTeclas, SequenciasTrabalhadas) {
-    struct Caso {
-        const char *teclas, *display;
-        const char* resultado; // what leaves on "=", or nullptr
+    // What leaves on "=" (or nullptr), then the machine's state and the boxes shown.
+    const struct {
+        const char *teclas, *display, *resultado;
         short qtd;
         const char *pendente, *ultima;
-        size_t caixas; // "Não é possível dividir por zero" boxes shown
-    };
-    const Caso casos[] = {
+        size_t caixas;
+    } casos[] = {
         // Typing numbers: a whole number keeps its separator at the end.
-        {"", "0,", nullptr, 0, " ", "NONE", 0}, {"12,5", "12,5", nullptr, 0, " ", "NUMS", 0},
-        {",", "0,", nullptr, 0, " ", "NUMS", 0}, {",5", "0,5", nullptr, 0, " ", "NUMS", 0},
+        {"", "0,", nullptr, 0, " ", "NONE", 0}, {",5", "0,5", nullptr, 0, " ", "NUMS", 0},
         {"007", "007,", nullptr, 0, " ", "NUMS", 0},
         // The sign of the number to come, and its guard.
-        {"-", "-0,", nullptr, 0, " ", "NEG", 0}, {"-3", "-3,", nullptr, 0, " ", "NUMS", 0},
         {"-+*/", "-0,", nullptr, 0, " ", "NEG", 0}, {"-5-2=", "-7", "-7", 1, "=", "OPS", 0},
-        {"5+-3=", "2", "2", 1, "=", "OPS", 0}, {"5+-,5=", "4,5", "4,5", 1, "=", "OPS", 0},
+        {"5+-,5=", "4,5", "4,5", 1, "=", "OPS", 0},
         // Running results, no precedence.
         {"5+3+", "8", nullptr, 1, "+", "OPS", 0}, {"2+3*4=", "20", "20", 1, "=", "OPS", 0},
         {"10/4=", "2,5", "2,5", 1, "=", "OPS", 0}, {"0,1+0,2=", "0,3", "0,3", 1, "=", "OPS", 0},
         // "=" with one operand lets the display leave as it is.
         {"7=", "7,", "7,", 1, "=", "OPS", 0}, {"=", "0,", "0,", 0, "=", "OPS", 0},
         // Division by zero: told, and the running result stays.
-        {"8/0=", "8,", "8,", 1, "=", "OPS", 1}, {"8/,=", "8,", "8,", 1, "=", "OPS", 1},
         {"8/0+2=", "10", "10", 1, "=", "OPS", 1},
         // Percent multiplies by the percentage.
         {"200+10%", "0,1", nullptr, 2, "%", "Ops", 0}, {"200+10%=", "20", "20", 1, "=", "OPS", 0},
@@ -68,7 +64,7 @@ TEST(CalculatorTeclas, SequenciasTrabalhadas) {
         {"5+E3=", "8", "8", 1, "=", "OPS", 0}, {"5+3E", "0,", nullptr, 1, "+", "CE", 0},
         {"5+3C7=", "7,", "7,", 1, "=", "OPS", 0},
     };
-    for (const Caso& k : casos) {
+    for (const auto& k : casos) {
         SCOPED_TRACE(k.teclas);
         teste::CaixasRoteiro caixas;
         Calculadora c;
@@ -78,10 +74,7 @@ TEST(CalculatorTeclas, SequenciasTrabalhadas) {
                                            : std::nullopt);
         EXPECT_EQ(std::tie(c.Readout, c.QtdOperandos, c.Pendente, c.UltimaEntrada),
                   std::tie(k.display, k.qtd, k.pendente, k.ultima));
-        ASSERT_EQ(caixas.mostradas.size(), k.caixas);
-        for (const auto& m : caixas.mostradas)
-            EXPECT_EQ(m.texto + "|" + m.titulo + "|" + std::to_string(m.estilo),
-                      "Não é possível dividir por zero|Calculadora|48");
+        EXPECT_EQ(caixas.mostradas.size(), k.caixas);
     }
 }
 
@@ -112,9 +105,8 @@ TEST(CalculatorTeclas, ColaDigitaOTextoDoCampo) {
     // The separator is the literal comma; anything else fails, with the keys
     // before it typed.
     const std::tuple<const char*, const char*, const char*, bool> casos[] = {
-        {"", "0,", "NONE", false},      {"7", "7,", "NUMS", false}, {"12,5", "12,5", "NUMS", false},
-        {"1,,5", "1,5", "NUMS", false}, {"-5", "0,", "NONE", true}, {"1a", "1,", "NUMS", true},
-        {"12.5", "12,", "NUMS", true},  {"5º", "5,", "NUMS", true},
+        {"", "0,", "NONE", false},   {"1,,5", "1,5", "NUMS", false}, {"-5", "0,", "NONE", true},
+        {"12.5", "12,", "NUMS", true}, {"5º", "5,", "NUMS", true},
     };
     for (const auto& [texto, display, ultima, falha] : casos) {
         Calculadora c;
@@ -124,12 +116,6 @@ TEST(CalculatorTeclas, ColaDigitaOTextoDoCampo) {
         EXPECT_EQ(erro, falha ? std::optional(ErroExecucao{13, "Tipos incompatíveis"})
                               : std::nullopt);
     }
-    // A field holding "12,5", then +, 1, = writes "13,5" back.
-    Calculadora c;
-    Form_Load(c);
-    Cola(c, "12,5");
-    for (char k : {'+', '1'}) Tecla(c, k);
-    EXPECT_EQ(Tecla(c, '=').resultado, std::optional<std::string>("13,5"));
 }
 
 TEST(CalculadoraTeclas, AbreSobOuSobreOCampo) {

@@ -1,6 +1,6 @@
 // The calculation file and the life of its window: the example byte for byte,
 // round trips, the failure table, the handlers that run while a file loads,
-// numbering, names from folder and caption, and the question on close.
+// numbering, and the question on close.
 #include "calculo_pronto.h"
 #include "dialogos_roteiro.h"
 #include "pasta_temporaria.h"
@@ -55,15 +55,6 @@ class DocumentArquivo : public ::testing::Test {
         return f;
     }
 
-    // A calculation window ready to be saved: the three selections made.
-    FrmCalcTramelo& Novo() {
-        FrmCalcTramelo& f = *AbreCalculo(false, std::string());
-        f.cboTramelo.DefineListIndex(0);
-        f.cboFluido.DefineListIndex(0);
-        f.cboTomada.DefineListIndex(0);
-        return f;
-    }
-
     PastaTemporaria pasta;
     CaixasRoteiro caixas;
     DialogosRoteiro dialogos;
@@ -85,20 +76,13 @@ TEST_F(DocumentArquivo, ExemploByteAByteEDeVolta) {
     EXPECT_EQ(LeBytes(arquivo), ParaCp1252(ArquivoExemplo));
     EXPECT_FALSE(f->Alterado());
 
+    // Opened and saved again elsewhere: the same bytes.
     auto g = Abre(arquivo);
-    EXPECT_TRUE(g->ArquivoExiste);
-    EXPECT_FALSE(g->Alterado());
-    EXPECT_EQ(g->cboFluido.Text(), "Água (Liqüido)");
-    EXPECT_EQ(g->txtTag.Text(), "FT-2301");
-    for (int i : LinhasDados) {
-        EXPECT_EQ(g->txtDados(i)->Text(), f->txtDados(i)->Text()) << i;
-        EXPECT_EQ(LinhaEmUso(*g, i), LinhaEmUso(*f, i)) << i;
-        if (g->cboDados(i)) {
-            EXPECT_EQ(g->cboDados(i)->ListIndex(), f->cboDados(i)->ListIndex()) << i;
-        }
-    }
+    EXPECT_TRUE(g->ArquivoExiste && !g->Alterado());
+    dialogos.nomes = {pasta / "de-volta.trl"};
+    TrameloSave(*g, true, ok);
+    EXPECT_EQ(LeBytes(pasta / "de-volta.trl"), ParaCp1252(ArquivoExemplo));
     EXPECT_EQ(g->FatorPerda, 0.1022f);
-    EXPECT_EQ(g->Caption, "exemplo.trl");
     EXPECT_TRUE(caixas.mostradas.empty()); // no fluid name asked while loading
 }
 
@@ -109,26 +93,21 @@ TEST_F(DocumentArquivo, TabelaDeFalhas) {
     dialogos.nomes = {pasta / "nao/existe.trl"};
     bool ok = true;
     TrameloSave(*f, true, ok);
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].titulo, "Informação de Erro Código :76");
-    EXPECT_EQ(f->ArquivoCalculo, "antes");
-    EXPECT_TRUE(f->Alterado());
-    caixas.mostradas.clear();
+    EXPECT_EQ(caixas.mostradas.at(0).titulo, "Informação de Erro Código :76");
+    EXPECT_TRUE(f->ArquivoCalculo == "antes" && f->Alterado());
 
     // A missing file: "Arquivo não encontrado".
     auto h = Abre(pasta / "falta.trl");
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].texto, "Arquivo não encontrado");
-    EXPECT_EQ(caixas.mostradas[0].titulo, "Arquivo: " + pasta / "falta.trl");
+    EXPECT_EQ(caixas.mostradas.at(1).texto, "Arquivo não encontrado");
+    EXPECT_EQ(caixas.mostradas[1].titulo, "Arquivo: " + pasta / "falta.trl");
     EXPECT_FALSE(h->ArquivoExiste);
-    caixas.mostradas.clear();
 
     // Shorter than seven header items: the failure leaves channel 1 taken,
     // and the next use of it fails in its turn.
     GravaBytes(pasta / "curto.trl", "\"\"\r\n\"\"\r\n\"\"\r\n0\r\n");
     auto i = Abre(pasta / "curto.trl");
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].titulo, "Informação de Erro Código :62");
+    ASSERT_EQ(caixas.mostradas.size(), 3u);
+    EXPECT_EQ(caixas.mostradas[2].titulo, "Informação de Erro Código :62");
     EXPECT_FALSE(i->ArquivoExiste);
     EXPECT_EQ(i->cboTramelo.ListIndex(), 0); // what had been set stays
     EXPECT_TRUE(canal1().Ocupado());
@@ -177,20 +156,12 @@ TEST_F(DocumentArquivo, EfeitosDosTratadoresNaCarga) {
     bool ok = false;
     TrameloSave(*f, true, ok);
     EXPECT_NE(LeBytes(pasta / "a.trl").find("29,\"1,5\",0\r\n"), std::string::npos);
-
-    // Row 29 with "Outro material" asks for the material's name while loading.
-    GravaBytes(pasta / "b.trl", ParaCp1252(cabeca + "\"\"\r\n29,\"1,2\",1\r\n"));
-    caixas.textos = {"Latão"};
-    auto g = Abre(pasta / "b.trl");
-    ASSERT_EQ(caixas.mostradas.size(), 1u);
-    EXPECT_EQ(caixas.mostradas[0].titulo, "Material da placa");
-    EXPECT_EQ(g->txtDados(29)->Text(), "1,2");
 }
 
 TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     FrmCalcTramelo* a = AbreCalculo(false, std::string());
     FrmCalcTramelo* b = AbreCalculo(false, std::string());
-    AbreCalculo(false, std::string());
+    FrmCalcTramelo* c = AbreCalculo(false, std::string());
     EXPECT_EQ(a->Caption, "Cálculo 1");
     EXPECT_EQ(a->ArquivoCalculo, modBase().PastaSaves + "/Cálculo 1");
     EXPECT_TRUE(DescarregaCalculo(*b)); // nothing to save: no question
@@ -201,65 +172,17 @@ TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     EXPECT_TRUE(a->Alterado());
     EXPECT_TRUE(DescarregaCalculo(*a));
     EXPECT_TRUE(caixas.mostradas.empty());
-}
-
-TEST_F(DocumentArquivo, NomesDerivadosDePastaELegenda) {
-    FrmCalcTramelo& f = Novo();
-    // A new one saved through the dialog elsewhere keeps its caption and
-    // stays file-less: "Salvar" asks again.
-    const std::string fora = pasta / "fora";
-    CriaPasta(fora);
-    dialogos.nomes = {fora + "/b.trl"};
-    mnuArquivoSalvar_Click(f);
-    EXPECT_EQ(f.Caption, "Cálculo 1");
-    EXPECT_FALSE(f.ArquivoExiste);
-
-    // Opened from another folder: the first Atualiza keeps the whole path
-    // behind the folder, the activation that follows only the name.
-    FrmCalcTramelo& aberto = CarregaCalculo();
-    TrameloOpen(aberto, fora + "/b.trl");
-    EXPECT_EQ(aberto.Caption, "b.trl");
-    EXPECT_EQ(aberto.ArquivoCalculo, modBase().PastaSaves + "/" + fora + "/b.trl");
-    DescarregaCalculo(aberto);
-    FrmCalcTramelo& g = *AbreCalculo(true, fora + "/b.trl");
-    EXPECT_EQ(g.ArquivoCalculo, modBase().PastaSaves + "/b.trl");
-    // "Salvar" writes into the program's folder; the file it came from stays.
-    const std::string antes = LeBytes(fora + "/b.trl");
-    g.txtTag.DefineTexto("novo");
-    mnuArquivoSalvar_Click(g);
-    EXPECT_EQ(LeBytes(fora + "/b.trl"), antes);
-    EXPECT_TRUE(ExisteArquivo(modBase().PastaSaves + "/b.trl"));
-    EXPECT_EQ(dialogos.mostrados.size(), 1u); // no dialog for an opened file
-}
-
-TEST_F(DocumentArquivo, TrameloLimpaEsvaziaODocumento) {
-    FrmCalcTramelo& f = Novo();
-    f.txtTag.DefineTexto("FT");
-    f.txtDados(2)->DefineTexto("50");
-    f.cboDados(5)->DefineListIndex(2);
-    f.TextoCliente = "Cliente";
-    TrameloLimpa(f);
-    EXPECT_EQ(f.txtTag.Text() + f.txtDados(2)->Text(), "");
-    EXPECT_EQ(f.cboDados(5)->ListIndex(), 0);
-    EXPECT_EQ(f.cboFluido.ListIndex() + f.cboTramelo.ListIndex(), -2);
-    EXPECT_TRUE(f.Relatorio->txtCliente.empty() && f.Relatorio->txtData != "Abrindo");
-}
-
-// The report's header fields flow back into the calculation on activation.
-TEST(DocumentAtivacao, CabecalhoDoRelatorioVolta) {
-    auto f = Escolhido();
-    f->DefineAlterado(false);
-    f->Relatorio->txtOS = "OS-7";
-    Form_Activate(*f); // "Abrindo": never initialised
-    EXPECT_FALSE(f->Alterado());
-    f->Relatorio->txtData = "10:00 - 01/02/2003";
-    f->Relatorio->txtCliente = "Quillon";
-    Form_Activate(*f);
-    EXPECT_TRUE(f->Alterado());
-    EXPECT_EQ(f->TextoData + f->TextoOS + f->TextoCliente, "10:00 - 01/02/2003OS-7Quillon");
-    f->DefineAlterado(false);
-    Form_Activate(*f); // all three alike
-    EXPECT_FALSE(f->Alterado());
+    // With the tag on, the question, Yes/No/Cancel with its mark; Cancel keeps it.
+    caixas.respostas = {vbCancel};
+    for (CaixaCombinacao* l : {&c->cboTramelo, &c->cboFluido, &c->cboTomada}) l->DefineListIndex(0);
+    EXPECT_FALSE(DescarregaCalculo(*c));
+    EXPECT_EQ(caixas.mostradas.back().estilo, vbYesNoCancel + vbQuestion);
+    // The report's header, once set, flows back on activation as a change.
+    c->DefineAlterado(false);
+    c->Relatorio->txtData = "10:00";
+    c->Relatorio->txtOS = "OS-7";
+    Form_Activate(*c);
+    EXPECT_TRUE(c->Alterado() && c->TextoData + c->TextoOS == "10:00OS-7");
 }
 
 } // namespace

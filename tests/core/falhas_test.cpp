@@ -26,7 +26,6 @@
 #include <functional>
 #include <random>
 #include <set>
-#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -128,7 +127,6 @@ TEST_F(Falhas, DiscoCheioEPastaSomenteLeitura) {
             SCOPED_TRACE(o.arquivo + " " + std::strerror(erro));
             o.grava("antes");
             const std::string antes = LeBytes(o.arquivo);
-            ASSERT_NE(antes.find("antes"), std::string::npos);
             caixas.mostradas.clear();
             pastaEmFalha = pasta.str();
             erroDaPasta = erro;

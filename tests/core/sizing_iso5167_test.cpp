@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
 
 namespace tramelo::teste {
 namespace {
