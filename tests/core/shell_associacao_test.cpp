@@ -1,13 +1,10 @@
 // The association of ".trl" files: the store's four entries, the desktop
-// entry and MIME type beside them, the silent take-over at each start; and
-// where the program finds what it ships, from a build folder or installed.
+// entry and MIME type beside them, the silent take-over at each start.
 #include "caixas_roteiro.h"
 #include "pasta_temporaria.h"
 
 #include "shell/associacao.h"
-#include "shell/dicas.h"
 #include "shell/entrada.h"
-#include "shell/instalacao.h"
 #include "shell/mod_base.h"
 #include "shell/registro.h"
 
@@ -15,7 +12,6 @@
 
 #include <filesystem>
 #include <optional>
-#include <sys/stat.h>
 
 namespace tramelo::teste {
 namespace {
@@ -65,7 +61,6 @@ TEST_F(ShellAssociacao, EntradasGravadas) {
     const std::string mime = LeBytes(Mime());
     EXPECT_NE(mime.find("<mime-type type=\"application/x-tramelo\">"), std::string::npos);
     EXPECT_NE(mime.find("<glob pattern=\"*.trl\"/>"), std::string::npos);
-
 
     // A store that can't be written: the result is the last write's, in silence.
     DefinePastasRegistro(pasta / "usuario", "/proc/tramelo-sem-acesso");
@@ -130,66 +125,6 @@ TEST(ShellAssociacaoExec, CaminhoNaLinhaExec) {
     };
     for (const Caso& c : casos)
         EXPECT_EQ(ArgumentoExec(c.caminho), c.exec) << c.caminho;
-}
-
-// The desktop's databases are refreshed only by a tool found on the PATH.
-TEST(ShellAssociacaoExec, FerramentaSoQuandoInstalada) {
-    PastaTemporaria pasta;
-    const std::string ferramenta = pasta / "update-mime-database";
-    GravaBytes(ferramenta, "#!/bin/sh\necho \"$@\" > \"${0%/*}/chamada\"\n");
-    chmod(ferramenta.c_str(), 0755);
-    const std::string path = std::getenv("PATH") ? std::getenv("PATH") : "";
-    setenv("PATH", ("/nao/existe:" + pasta.str()).c_str(), 1);
-    ExecutaSeInstalada("update-mime-database", {"/tmp/x mime"});
-    ExecutaSeInstalada("update-desktop-database", {"/tmp/y"}); // not installed: nothing
-    setenv("PATH", path.c_str(), 1);
-    EXPECT_EQ(LeBytes(pasta / "chamada"), "/tmp/x mime\n");
-}
-
-TEST(ShellInstalacao, PastasDoProgramaInstaladoEDaCompilacao) {
-    struct Caso {
-        const char* executavel;  // folder of the executable, under the test's root
-        const char* dadosPacote; // the installed data folder made, or null
-        bool dicasAoLado;        // a tips file beside the executable too
-        const char* pastaDados;  // expected data folder ("XDG" for $XDG_DATA_HOME/Tramelo)
-        const char* dicas;       // expected tips file
-        bool entradaDoUsuario;   // the association writes the user's desktop entry
-    };
-    const Caso casos[] = {
-        {"build", nullptr, true, "build", "build/DicaDoDia.txt", true},
-        {"usr/bin", "usr/share/tramelo", false, "XDG", "usr/share/tramelo/DicaDoDia.txt", false},
-        {"home/.local/bin/", "home/.local/share/tramelo", true, "XDG",
-         "home/.local/share/tramelo/DicaDoDia.txt", false},
-        // A bin folder with nothing installed beside it is a developer's folder.
-        {"opt/t/bin", nullptr, true, "opt/t/bin", "opt/t/bin/DicaDoDia.txt", true},
-    };
-    for (const Caso& c : casos) {
-        SCOPED_TRACE(c.executavel);
-        PastaTemporaria raiz;
-        setenv("XDG_DATA_HOME", (raiz / "xdg").c_str(), 1);
-        DefinePastasRegistro(raiz / "config", raiz / "xdg/Tramelo");
-        ExecutaFerramenta = [](const std::string&, const std::vector<std::string>&) {};
-        std::filesystem::create_directories(raiz / c.executavel);
-        if (c.dicasAoLado) GravaBytes(raiz / c.executavel + "/DicaDoDia.txt", "ao lado\r\n");
-        if (c.dadosPacote) {
-            std::filesystem::create_directories(raiz / c.dadosPacote);
-            GravaBytes(raiz / c.dadosPacote + "/DicaDoDia.txt", "instalada\r\n");
-        }
-        const std::string exe = std::filesystem::path(raiz / c.executavel).lexically_normal().string();
-        PastaExecutavel() = exe;
-
-        const std::string esperada = std::string(c.pastaDados) == "XDG" ? raiz / "xdg/Tramelo" : raiz / c.pastaDados;
-        EXPECT_EQ(std::filesystem::path(PastaDadosPrograma(exe)).lexically_normal(),
-                  std::filesystem::path(esperada).lexically_normal());
-        EXPECT_EQ(std::filesystem::path(ArquivoDoPrograma(exe, ArquivoDicas)).lexically_normal(),
-                  std::filesystem::path(raiz / c.dicas).lexically_normal());
-        AssociaArquivos();
-        EXPECT_EQ(std::filesystem::exists(raiz / "xdg/applications/Tramelo.desktop"), c.entradaDoUsuario);
-
-        ExecutaFerramenta = nullptr;
-        PastaExecutavel().clear();
-        unsetenv("XDG_DATA_HOME");
-    }
 }
 
 } // namespace

