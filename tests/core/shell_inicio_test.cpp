@@ -160,9 +160,10 @@ TEST_F(ShellInicio, OQueAbreAoFimDaPartida) {
 
         EXPECT_TRUE(Houve("dica") == c.dica && tela.eventos.back() == (c.dica ? "dica" : "menu mostrado"));
         ASSERT_EQ(Calculos().size(), *c.calculo ? 1u : 0u);
-        if (*c.calculo) EXPECT_EQ(Calculos()[0]->Caption, c.calculo);
+        EXPECT_EQ(*c.calculo ? Calculos()[0]->Caption : "", c.calculo);
         ASSERT_EQ(caixas.mostradas.size(), c.naoEncontrado ? 1u : 0u);
-        if (c.naoEncontrado) EXPECT_EQ(caixas.mostradas[0].texto + "|" + caixas.mostradas[0].titulo, "Arquivo não encontrado|" + c.linha);
+        const std::string caixa = c.naoEncontrado ? caixas.mostradas[0].texto + "|" + caixas.mostradas[0].titulo : "";
+        EXPECT_EQ(caixa, c.naoEncontrado ? "Arquivo não encontrado|" + c.linha : "");
     }
 }
 
@@ -200,7 +201,7 @@ TEST_F(ShellInicio, ComandoDeUmaSegundaPartida) {
         EXPECT_EQ(Houve("menu mostrado"), !c.mostraFalha);
         EXPECT_EQ(Calculos().size(), c.abre ? 1u : 0u);
         EXPECT_EQ(caixas.mostradas.size(), c.naoEncontrado ? 1u : 0u);
-        if (c.naoEncontrado) EXPECT_EQ(caixas.mostradas[0].titulo, "/A " + arquivo);
+        EXPECT_EQ(c.naoEncontrado ? caixas.mostradas[0].titulo : "", c.naoEncontrado ? "/A " + arquivo : "");
     }
 }
 
