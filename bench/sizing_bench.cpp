@@ -13,11 +13,17 @@
 namespace tramelo::teste {
 namespace {
 
-void CalcularLiquido(benchmark::State& estado) {
-    CaixasRoteiro caixas;
+// Water at 20 ºC, flange taps.
+std::unique_ptr<FrmCalcTramelo> Liquido() {
     auto f = CalculoPronto(0, 1);
     Preenche(*f, {{2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"},
                   {18, "998"}, {20, "1"}, {28, "0,8"}});
+    return f;
+}
+
+void CalcularLiquido(benchmark::State& estado) {
+    CaixasRoteiro caixas;
+    auto f = Liquido();
     for (auto _ : estado) {
         ResultadoCalculo r = cmdCalcular_Click(*f);
         benchmark::DoNotOptimize(r);
@@ -77,10 +83,7 @@ void VerificaIso(benchmark::State& estado, std::unique_ptr<FrmCalcTramelo> f) {
     }
 }
 void VerificaIsoLiquido(benchmark::State& estado) {
-    auto f = CalculoPronto(0, 1);
-    Preenche(*f, {{2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"},
-                  {18, "998"}, {20, "1"}, {28, "0,8"}});
-    VerificaIso(estado, std::move(f));
+    VerificaIso(estado, Liquido());
 }
 BENCHMARK(VerificaIsoLiquido);
 void VerificaIsoAr(benchmark::State& estado) {

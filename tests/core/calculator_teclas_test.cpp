@@ -75,6 +75,7 @@ TEST(CalculatorTeclas, SequenciasTrabalhadas) {
         EXPECT_EQ(std::tie(c.Readout, c.QtdOperandos, c.Pendente, c.UltimaEntrada),
                   std::tie(k.display, k.qtd, k.pendente, k.ultima));
         EXPECT_EQ(caixas.mostradas.size(), k.caixas);
+        for (const auto& m : caixas.mostradas) EXPECT_EQ(m.estilo, vbOKOnly + vbExclamation);
     }
 }
 

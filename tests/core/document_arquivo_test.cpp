@@ -76,11 +76,14 @@ TEST_F(DocumentArquivo, ExemploByteAByteEDeVolta) {
     EXPECT_EQ(LeBytes(arquivo), ParaCp1252(ArquivoExemplo));
     EXPECT_FALSE(f->Alterado());
 
-    // Opened and saved again elsewhere: the same bytes.
-    auto g = Abre(arquivo);
+    // Opened by the dialog and saved again elsewhere: the same bytes.
+    dialogos.nomes = {arquivo};
+    auto g = Abre("");
     EXPECT_TRUE(g->ArquivoExiste && !g->Alterado());
     dialogos.nomes = {pasta / "de-volta.trl"};
     TrameloSave(*g, true, ok);
+    EXPECT_EQ(dialogos.mostrados.back().FileName + "|" + dialogos.mostrados.back().InitDir,
+              "exemplo.trl|" + pasta.str() + "/"); // offered where it was, as it was named
     EXPECT_EQ(LeBytes(pasta / "de-volta.trl"), ParaCp1252(ArquivoExemplo));
     EXPECT_EQ(g->FatorPerda, 0.1022f);
     EXPECT_TRUE(caixas.mostradas.empty()); // no fluid name asked while loading

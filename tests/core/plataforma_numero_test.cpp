@@ -65,8 +65,8 @@ TEST(PlataformaNumero, NumeroParaTexto) {
 TEST(PlataformaNumero, ValCIntEAritmetica) {
     const std::pair<std::string, double> vals[] = {
         {" 12 ", 12}, {"1 2", 12},   {"3,5", 3},   {"3.5", 3.5}, {"abc", 0}, {"", 0},
-        {"&H1F", 31}, {"&H1G", 1}, // G is no hex digit
-        {"-7x", -7},  {"&H" + std::string(18, '9'), 11068046444225730969.0}, // 16 digits, no wrap
+        {"&H1F", 31}, {"&h1f", 31}, {"&H1G", 1}, // G is no hex digit
+        {"-7x", -7},  {"&H123456789ABCDEF012", double(0x123456789ABCDEF0ull)}, // 16 digits, no wrap
     };
     for (const auto& [texto, valor] : vals) EXPECT_EQ(Val(texto), valor) << texto;
     // half to even

@@ -221,9 +221,21 @@ TEST_F(ShellInicio, MenuCarregadoEDescarregadoComAsConfiguracoes) {
     MdiMenu_Unload();
     EXPECT_EQ(LeConfig("Config", "Barra1") + LeConfig("Config", "Barra0"), "FalseTrue");
     EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState") + LeConfig("Config\\Menu", "MainLeft"), "21500");
+    // The last band shown goes, and the whole bar with it; "Exportar" with no
+    // report open does nothing.
+    mnuExibirBarraPadrao_Click();
+    EXPECT_FALSE(m.cobBarra.Visible);
+    int exportados = 0;
+    ExportaRelatorio = [&](FrmRelatorio&) { ++exportados; };
+    tbCalculo_ButtonClick("Exportar");
+    ExportaRelatorio = nullptr;
+    EXPECT_EQ(exportados, 0);
 }
 
 TEST(ShellSobre, DicaESublinhadoDosLinks) {
+    FrmAbertura splash; // its clock starts with it
+    FrmAbertura_Load(splash);
+    EXPECT_TRUE(splash.tmrLogin.Enabled);
     FrmSobre f;
     FrmSobre_Load(f);
     // The site's tip is on the pointer box moved over the site's link.
