@@ -8,6 +8,7 @@
 #include "sizing/calculo.h"
 #include "sizing/equacoes.h"
 #include "sizing/execucao.h"
+#include "steam/tabelas_vapor.h"
 
 #include <gtest/gtest.h>
 
@@ -191,11 +192,16 @@ TEST(SizingEquacoes, Tomadas) {
     limite = 1234;
     EquacaoTomada(5, 0.3, D, Re, coef, limite);
     EXPECT_EQ(limite.valor(), 1234);
-    EXPECT_GT(coef.valor(), 0);
+    EXPECT_NEAR(coef.valor(), 0.0571664216, 5e-11); // its steps worked by hand in Python
 
     // Corner taps at Beta 1 or more: division by zero, then a negative root.
     EXPECT_THROW(EquacaoTomada(4, 1.0, D, Re, coef, limite), Falha);
     EXPECT_THROW(EquacaoTomada(4, 1.1, D, Re, coef, limite), Falha);
+}
+
+// Each table by its type, read where the window shows its first value.
+TEST(SizingVapor, TabelaPeloTipo) {
+    EXPECT_EQ(GradeTabela(0)[1][1] + " " + GradeTabela(1)[1][1], "0,451 2,218");
 }
 
 TEST(ReportBuffer, AddRel2Colunas) {

@@ -80,14 +80,6 @@ class Jornada : public ::testing::Test {
         ASSERT_TRUE(x.EsperaSumir("dialog", titulo, 5000)) << titulo;
     }
 
-    // The tip of the day, shown at a start with no file, closed by its OK.
-    void FechaDica() {
-        auto ok = x.Espera("push button", "OK", 5000);
-        ASSERT_TRUE(ok);
-        x.Clica(ok->cx(), ok->cy());
-        ASSERT_TRUE(x.EsperaSumir("push button", "OK", 5000));
-    }
-
     // The close button drawn in the title bar of a child window.
     // Read again just before: a table sizes itself to its grid once shown.
     void FechaPelaBarraDeTitulo(const No& janela) {
@@ -313,7 +305,7 @@ TEST_F(Jornada, TabelasDicasOpcoesESobre) {
     fs::permissions(x.Caminho("bin/xdg-open"), fs::perms::owner_all);
     setenv("PATH", (x.Caminho("bin") + ":" + std::getenv("PATH")).c_str(), 1);
     ASSERT_TRUE(x.Inicia());
-    FechaDica();
+    Botao("OK"); // the tip of the day, at a start with no file
     for (const std::string tabela : {"&Massa do Vapor Superaquecido", "&Volume do Vapor Superaquecido"}) {
         Menu({"Aj&uda", "D&ocumentação", tabela});
         const std::string titulo = tabela[1] == 'M' ? "Massa específica do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)\"  " : "Volume específico do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)";
@@ -376,14 +368,14 @@ TEST_F(Jornada, SaiComJanelaMovidaEVoltaNoMesmoLugar) {
     const std::string janela = "xdotool search --onlyvisible --name '^Tramelo$' ";
     auto geometria = [&] { return x.Comando(janela + "getwindowgeometry %1"); };
     ASSERT_TRUE(x.Inicia());
-    FechaDica();
+    Botao("OK"); // the tip of the day, at a start with no file
     x.Comando(janela + "windowmove %1 150 120 windowsize %1 800 640");
     x.Pausa(500);
     const std::string antes = geometria();
     Menu({"&Arquivo", "Sai&r"});
     ASSERT_EQ(x.Espera(10000), 0) << x.Saida();
     ASSERT_TRUE(x.Inicia());
-    FechaDica();
+    Botao("OK"); // the tip of the day, at a start with no file
     x.Pausa(500);
     EXPECT_EQ(geometria(), antes);
 
