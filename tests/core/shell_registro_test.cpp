@@ -103,6 +103,7 @@ TEST_F(ShellRegistro, ValoresPorTipo) {
         {REG_DWORD, std::string("\x02\x01\x00\x00", 4), "18"},    // 0x102: its inner zero is lost
         {REG_DWORD, std::string("\x00\x01\x00\x00", 4), "0"},     // a zero byte cuts the number
         {REG_DWORD, std::string("\x10\x80\x00\x00", 4), "-32752"}, // four digits: 16-bit
+        {REG_DWORD, std::string("\x78\x56\x34\x12", 4), "305419896"}, // all eight digits
         {REG_EXPAND_SZ, "$HOME/%USERNAME%", "$HOME/%USERNAME%"}, // nothing expanded
         {REG_BINARY, "abc", ""},
         {7, std::string("a\0b\0\0", 5), ""}, // a list of strings
