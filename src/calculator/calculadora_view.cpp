@@ -225,7 +225,7 @@ void CalculadoraView::PedeAtivacao(int vezes) {
     QTimer::singleShot(500, this, [this, vezes] {
         if (!voltando_ || !isVisible() || fechando_) return;
         if (vezes > 1) {
-            if (!isActiveWindow()) activateWindow();
+            DecideSaida();
             PedeAtivacao(vezes - 1);
             return;
         }

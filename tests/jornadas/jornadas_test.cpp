@@ -231,13 +231,17 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
 TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
     ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
     const std::string pergunta = "Deseja salvar as alterações efetuadas neste Cálculo?";
-    auto campo = x.Espera("text", "Vazão de projeto", 5000);
-    ASSERT_TRUE(campo);
-    x.Clica(campo->cx(), campo->cy());
-    x.Tecla("ctrl+a");
-    x.Digita("60");
-    Menu({"&Arquivo", "Fechar &todos"}, "Return");
-    ASSERT_TRUE(x.Espera("label", pergunta, 5000));
+    // A new flow typed into the open calculation, then "Fechar todos".
+    auto MudaEFechaTodos = [&](const std::string& vazao) {
+        auto campo = x.Espera("text", "Vazão de projeto", 5000);
+        ASSERT_TRUE(campo);
+        x.Clica(campo->cx(), campo->cy());
+        x.Tecla("ctrl+a");
+        x.Digita(vazao);
+        Menu({"&Arquivo", "Fechar &todos"}, "Return");
+        ASSERT_TRUE(x.Espera("label", pergunta, 5000));
+    };
+    ASSERT_NO_FATAL_FAILURE(MudaEFechaTodos("60"));
     // "Cancelar" keeps it, and closing all comes back to it and asks again.
     x.Tecla("Escape");
     x.Pausa(500);
@@ -256,13 +260,7 @@ TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
     const std::string vapor = Exemplo("vapor.trl");
     Menu({"&Arquivo", "&Abrir"});
     DialogoDeArquivo("Abrir Tramelo", vapor);
-    auto vazao = x.Espera("text", "Vazão de projeto", 5000);
-    ASSERT_TRUE(vazao);
-    x.Clica(vazao->cx(), vazao->cy());
-    x.Tecla("ctrl+a");
-    x.Digita("7");
-    Menu({"&Arquivo", "Fechar &todos"}, "Return");
-    ASSERT_TRUE(x.Espera("label", pergunta, 5000));
+    ASSERT_NO_FATAL_FAILURE(MudaEFechaTodos("7"));
     x.Tecla("alt+n");
     ASSERT_TRUE(x.EsperaSumir("frame", "vapor.trl", 5000));
     EXPECT_EQ(x.Comando("cat '" + vapor + "'"),
