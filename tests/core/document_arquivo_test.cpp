@@ -168,7 +168,8 @@ TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     EXPECT_EQ(a->Caption, "Cálculo 1");
     EXPECT_EQ(a->ArquivoCalculo, modBase().PastaSaves + "/Cálculo 1");
     EXPECT_TRUE(DescarregaCalculo(*b)); // nothing to save: no question
-    EXPECT_EQ(AbreCalculo(false, std::string())->Caption, "Cálculo 4");
+    FrmCalcTramelo* d = AbreCalculo(false, std::string());
+    EXPECT_EQ(d->Caption, "Cálculo 4");
     EXPECT_EQ(Calculos().size(), 3u);
     // A changed selection without a fluid: the tag is off, so no question.
     a->cboTramelo.DefineListIndex(1);
@@ -186,6 +187,17 @@ TEST_F(DocumentArquivo, NumeracaoDosNovosCalculos) {
     c->Relatorio->txtOS = "OS-7";
     Form_Activate(*c);
     EXPECT_TRUE(c->Alterado() && c->TextoData + c->TextoOS == "10:00OS-7");
+
+    // Closing all asks each before any goes: "Sim" saves the first, "Cancelar"
+    // on the next keeps both; then "Não" lets the other go unsaved.
+    for (CaixaCombinacao* l : {&d->cboTramelo, &d->cboFluido, &d->cboTomada}) l->DefineListIndex(0);
+    caixas.respostas = {vbYes, vbCancel};
+    dialogos.nomes = {pasta / "c.trl"};
+    EXPECT_FALSE(DescarregaTodosCalculos());
+    EXPECT_TRUE(Calculos().size() == 2 && !c->Alterado() && LeBytes(pasta / "c.trl").find("10:00") != std::string::npos);
+    caixas.respostas = {vbNo};
+    EXPECT_TRUE(DescarregaTodosCalculos());
+    EXPECT_TRUE(Calculos().empty());
 }
 
 } // namespace

@@ -36,8 +36,12 @@ TEST(DocumentCampos, LeiauteDosTresFluidos) {
             EXPECT_EQ(f->picDados(i)->Visible, esperado) << i;
         }
         EXPECT_EQ(f->picMove.Height, static_cast<int>(c.ordem.size()) * 25);
-        EXPECT_EQ(f->barraV.Max, c.Max);
-        EXPECT_EQ(f->barraV.LargeChange, c.Max);
+        EXPECT_TRUE(f->barraV.Enabled && f->barraV.Max == c.Max && f->barraV.LargeChange == c.Max);
+        // A list tall enough for every row: the bar goes back to the top, off.
+        f->barraV.DefineValue(2);
+        f->barraV.Height = 1000;
+        OrganizaCampos(*f);
+        EXPECT_TRUE(f->barraV.Value == 0 && !f->barraV.Enabled);
     }
 }
 
@@ -128,6 +132,12 @@ TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     EXPECT_TRUE(LinhaEmUso(*f, 16));
     EXPECT_TRUE(f->picDados(16)->Enabled);
     EXPECT_FALSE(f->lblDados(16)->Enabled || f->txtDados(16)->Enabled || f->cboDados(16)->Enabled);
+
+    // All rows off, whatever is asked, and out of sight but the four built ones.
+    TodosCampoDados(*f, true);
+    for (int i = 2; i <= 30; ++i)
+        EXPECT_TRUE(!f->picDados(i) || (f->picDados(i)->Visible == (i <= 5) && !f->txtDados(i)->Enabled)) << i;
+    EXPECT_TRUE(f->picLista.Enabled && f->picMenu.corAtiva);
 }
 
 // A scripted user who also keeps the text each input box offered.

@@ -32,7 +32,7 @@ TEST(PlataformaNumero, TextoParaNumero) {
         {"102,26", 102.26}, {"0", 0},           {"1e-400", 0},       {"1E-99999999999", 0},
         // read whole, however long; an exponent beyond any int is still a number
         {std::string(3000, '0') + "12,5" + std::string(3000, '0'), 12.5},
-        {"1" + std::string(2500, '0') + "E-2500", 1},
+        {"1" + std::string(2500, '0') + "E-2500", 1}, {"0," + std::string(500, '0') + "1E+100", 0},
     };
     for (const auto& [texto, valor] : casos) EXPECT_EQ(TextoParaNumero(texto), valor) << texto;
     const std::pair<std::string, int> falhas[] = {

@@ -129,6 +129,10 @@ TEST(Report, SegundaPaginaIso) {
                                             r.lblCliente + "Usina Norte", "", iso[0], iso[1],
                                             "<fim>"}));
     }
+    // "Configurar impressão" shows the same dialog, for the printer's setup.
+    DialogosRoteiro dialogos;
+    mnuArquivoConfigurarImpressao_Click();
+    EXPECT_TRUE(dialogos.mostrados.at(0).Flags & cdlPDPrintSetup);
 }
 
 } // namespace

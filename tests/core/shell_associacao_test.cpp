@@ -62,6 +62,18 @@ TEST_F(ShellAssociacao, EntradasGravadas) {
     EXPECT_NE(mime.find("<mime-type type=\"application/x-tramelo\">"), std::string::npos);
     EXPECT_NE(mime.find("<glob pattern=\"*.trl\"/>"), std::string::npos);
 
+    // Without the desktop's runner the cache tools are looked for along PATH,
+    // past a folder of the same name, and run to their end.
+    ExecutaFerramenta = nullptr;
+    std::filesystem::create_directories(pasta / "d/update-mime-database");
+    GravaBytes(pasta / "update-mime-database", "#!/bin/sh\necho \"$@\" > \"$0.txt\"\n");
+    std::filesystem::permissions(pasta / "update-mime-database", std::filesystem::perms::owner_all);
+    const std::string path = std::getenv("PATH");
+    setenv("PATH", (pasta / "d:" + pasta.str()).c_str(), 1);
+    AssociaArquivos();
+    setenv("PATH", path.c_str(), 1);
+    EXPECT_EQ(LeBytes(pasta / "update-mime-database.txt"), pasta / "share/mime\n");
+
     // A store that can't be written: the result is the last write's, in silence.
     DefinePastasRegistro(pasta / "usuario", "/proc/tramelo-sem-acesso");
     EXPECT_FALSE(AssociaArquivos());

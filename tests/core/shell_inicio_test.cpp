@@ -10,11 +10,11 @@
 #include "shell/abertura.h"
 #include "shell/associacao.h"
 #include "shell/barras.h"
+#include "shell/dicas.h"
 #include "shell/entrada.h"
 #include "shell/inicio.h"
 #include "shell/mdi_menu.h"
 #include "shell/mod_base.h"
-#include "shell/opcoes.h"
 #include "shell/recentes.h"
 #include "shell/registro.h"
 #include "sizing/catalogo.h"
@@ -222,14 +222,45 @@ TEST_F(ShellInicio, MenuCarregadoEDescarregadoComAsConfiguracoes) {
     EXPECT_EQ(LeConfig("Config", "Barra1") + LeConfig("Config", "Barra0"), "FalseTrue");
     EXPECT_EQ(LeConfig("Config\\Menu", "MainWindowsState") + LeConfig("Config\\Menu", "MainLeft"), "21500");
     // The last band shown goes, and the whole bar with it; "Exportar" with no
-    // report open does nothing.
+    // report open does nothing, "Sair" asks the program to end.
     mnuExibirBarraPadrao_Click();
-    EXPECT_FALSE(m.cobBarra.Visible);
-    int exportados = 0;
-    ExportaRelatorio = [&](FrmRelatorio&) { ++exportados; };
+    EXPECT_FALSE(m.cobBarra.Visible || m.cobBarra.Bands(1).Visible || m.mnuExibirBarraPadrao.Checked);
+    std::string chamados;
+    ExportaRelatorio = [&](FrmRelatorio&) { chamados += "exporta "; };
+    SairDoPrograma = [&] { chamados += "sai"; };
     tbCalculo_ButtonClick("Exportar");
+    tbPadrao_ButtonClick("Sair");
     ExportaRelatorio = nullptr;
-    EXPECT_EQ(exportados, 0);
+    SairDoPrograma = nullptr;
+    EXPECT_EQ(chamados, "sai");
+}
+
+TEST_F(ShellInicio, DicaDoDia) {
+    mdiMenu().Width = 12000;
+    mdiMenu().Height = 9000;
+    // The tips box 400 by 240 pixels at 100, 80 in the frame's window: centred
+    // in the client area, (12000 - 6000 - 15 * 100) / 2 by (9000 - 3600 - 15 * 80) / 2.
+    const LugarDica lugar{{0, 0, 800, 600}, {100, 80, 500, 320}, 15};
+    FrmDica sem;
+    Form_Load(sem, lugar);
+    EXPECT_EQ(std::pair(sem.Left, sem.Top), std::pair(2250, 2100));
+    EXPECT_TRUE(sem.chkDicasIniciar.Value && sem.lblTipText.starts_with("Este arquivo 'DicaDoDia.txt' não foi"));
+    // Three tips, drawn by the random number; "Nova Dica" draws again. A data
+    // folder of an installed copy without them leaves them beside the program.
+    GravaBytes(pasta / "bin/DicaDoDia.txt", "um\r\ndois\r\ntres\r\n");
+    std::filesystem::create_directories(pasta / "share/tramelo");
+    GravaConfig("Config", "DicasIniciar", "0");
+    FrmDica f;
+    double sorte = 0.5;
+    f.Rnd = [&] { return sorte; };
+    Form_Load(f, lugar);
+    EXPECT_TRUE(f.lblTipText == "dois" && !f.chkDicasIniciar.Value);
+    sorte = 0.99;
+    cmdNextTip_Click(f);
+    EXPECT_EQ(f.lblTipText, "tres");
+    f.chkDicasIniciar.Value = true;
+    chkDicasIniciar_Click(f);
+    EXPECT_EQ(LeConfig("Config", "DicasIniciar"), "1");
 }
 
 TEST(ShellSobre, DicaESublinhadoDosLinks) {
@@ -253,12 +284,6 @@ TEST(ShellSobre, DicaESublinhadoDosLinks) {
         EXPECT_EQ(std::pair(f.lblLink[0].Underline, f.lblLink[1].Underline), std::pair(c.link0, c.link1))
             << c.cursor.x << "," << c.cursor.y;
     }
-    // The options dialog's boxes, from 0 to 5.
-    std::string legendas;
-    for (const CaixaMarcacao& c : FrmOpcao{}.chkOpcao) legendas += c.Caption + "|";
-    EXPECT_EQ(legendas, "Barra de Ferramentas Botões Padrão|Barra de Ferramentas de Cálculo|Nome dos botões das Barras "
-                        "de Ferramentas|Barra de Status|Verificar se os arqivos '.trl' estão associados a este "
-                        "programa|&Mostrar dicas ao iniciar|");
 }
 
 } // namespace

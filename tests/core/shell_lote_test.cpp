@@ -160,7 +160,7 @@ TEST_F(ShellLote, StatusDeSaida) {
 
     Saida curto = Executa("--json " + pasta / "curto.trl");
     EXPECT_EQ(curto.status, 2);
-    EXPECT_EQ(nlohmann::json::parse(curto.saida)[0]["erro"]["numero"], 62);
+    EXPECT_EQ(nlohmann::json::parse(curto.saida)[0]["erro"], nlohmann::json::parse(R"({"numero": 62, "descricao": "Entrada além do fim do arquivo"})"));
 
     // Not calculation files: random bytes, a text, a folder. None is opened;
     // the batch goes on and its status is the highest.

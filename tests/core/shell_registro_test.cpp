@@ -192,10 +192,11 @@ TEST(ShellRecentes, EncurtaCaminho) {
         // A folder name of 5 characters stays whole, 6 become 3 and "../";
         // capitals go to proper case; the file name stands as it is.
         {"/mnt/DADOS/PLANTA/calculo-01.trl", "/Mnt/Dados/Pla../calculo-01.trl"},
-        // Words begin after blanks only; accented letters change case too.
+        // Words begin after blanks and control characters only; accented
+        // letters change case too.
         {"/srv/o meu projeto/calculo-final.trl", "/Srv/O M../calculo-final.trl"},
-        {"/srv/ÁGUA/PASTA-NOVA/medições-2024.trl", "/Srv/Água/Pas../medições-2024.trl"},
-        {"/srv/ab-cd/2abcd/calculo-final-01.trl", "/Srv/Ab-cd/2abcd/calculo-final-01.trl"},
+        {"/srv/ÓRGÃO/PASTA-NOVA/medições-2024.trl", "/Srv/Órgão/Pas../medições-2024.trl"},
+        {"/srv/a-b\tc/2abcd/calculo-final-01.trl", "/Srv/A-b\tC/2abcd/calculo-final-01.trl"},
         // No separator after the first 3 characters: only the rest.
         {"sem-separador-nenhum-com-31-car", "sem-separador-nenhum-com-31-car"},
     };
