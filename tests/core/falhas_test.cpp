@@ -14,6 +14,7 @@
 #include "report/frm_relatorio.h"
 #include "shell/mod_base.h"
 #include "shell/registro.h"
+#include "sizing/calculo.h"
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <functional>
+#include <new>
 #include <random>
 #include <set>
 #include <sys/wait.h>
@@ -44,7 +46,21 @@ template <typename F> F Real(const char* nome) {
     return reinterpret_cast<F>(dlsym(RTLD_NEXT, nome));
 }
 
+// Memory as the tests script it: while this counts down from N, the Nth
+// allocation after it was set fails, once, as a large one fails when memory
+// runs out; it is -1 after that failure.
+int alocacoesAteFalhar = -1;
+
 } // namespace
+
+void* operator new(std::size_t n) {
+    if (alocacoesAteFalhar >= 0 && alocacoesAteFalhar-- == 0) throw std::bad_alloc();
+    if (void* p = std::malloc(n ? n : 1)) return p;
+    throw std::bad_alloc();
+}
+void* operator new(std::size_t n, const std::nothrow_t&) noexcept { return std::malloc(n ? n : 1); }
+void operator delete(void* p) noexcept { std::free(p); }
+void operator delete(void* p, std::size_t) noexcept { std::free(p); }
 
 extern "C" FILE* fopen(const char* caminho, const char* modo) {
     static auto real = Real<FILE* (*)(const char*, const char*)>("fopen");
@@ -163,6 +179,22 @@ TEST_F(Falhas, ConfiguracaoCortadaLeVazia) {
     GravaConfig("Config", "DicasIniciar", "1");
     EXPECT_EQ(LeConfig("Config", "DicasIniciar"), "1");
     EXPECT_TRUE(std::filesystem::exists(pasta / "config/registro-usuario.json.danificado"));
+}
+
+// Each allocation of "Calcular" in turn fails: each time the run ends with
+// failure 7, nothing escapes, and the next run completes.
+TEST_F(Falhas, MemoriaEsgotadaNoCalculo) {
+    auto f = CalculoPronto(0, 1);
+    Preenche(*f, {{2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"},
+                  {18, "998"}, {20, "1"}, {28, "0,8"}});
+    for (int k = 0;; ++k) {
+        alocacoesAteFalhar = k;
+        const ResultadoCalculo r = cmdCalcular_Click(*f);
+        const bool falhou = alocacoesAteFalhar < 0;
+        alocacoesAteFalhar = -1;
+        ASSERT_EQ(r.erro, (falhou ? ErroExecucao{7, "Memória insuficiente"} : ErroExecucao{})) << k;
+        if (!falhou) break;
+    }
 }
 
 // Killed at random points of saves in a loop, the file is always one of the
