@@ -94,30 +94,6 @@ TEST(DocumentCampos, TrocaDeFluidoMantemListaDeVazaoPeloTamanho) {
     }
 }
 
-TEST(DocumentCampos, UnidadeDeVazaoLigaLinhasSemReorganizar) {
-    CaixasRoteiro caixas;
-    auto f = Escolhido(1);
-    const int topo25 = f->picDados(25)->Top;
-    f->cboDados(2)->DefineListIndex(2); // T/h
-    for (int i : {8, 10, 17, 25}) {
-        EXPECT_FALSE(LinhaEmUso(*f, i) || f->txtDados(i)->Enabled) << i;
-        EXPECT_TRUE(f->picDados(i)->Visible) << i; // stays in place, greyed
-    }
-    EXPECT_EQ(f->picDados(25)->Top, topo25);
-    f->cboDados(2)->DefineListIndex(0);
-    for (int i : {8, 10, 17, 25})
-        EXPECT_TRUE(LinhaEmUso(*f, i) && f->txtDados(i)->Enabled) << i;
-
-    // By the unit's number, not its position: steam's first unit is Kg/h.
-    auto vapor = Escolhido(2);
-    for (int k : {1, 0}) {
-        CampoDados(*vapor, 8, true);
-        CampoDados(*vapor, 17, true);
-        vapor->cboDados(2)->DefineListIndex(k);
-        EXPECT_FALSE(LinhaEmUso(*vapor, 8) || LinhaEmUso(*vapor, 17)) << k;
-    }
-}
-
 TEST(DocumentCampos, CampoDadosPulaOQueFalta) {
     CaixasRoteiro caixas;
     auto f = Escolhido(0);

@@ -1,5 +1,5 @@
 // Faults that must lose nothing: a full disk and a read-only folder during a
-// save, an export and a settings write; a settings file cut in the middle;
+// save, an export and a settings write; memory running out in "Calcular";
 // the program killed in the middle of a save.
 #include "caixas_roteiro.h"
 #include "calculo_pronto.h"
@@ -165,20 +165,6 @@ TEST_F(Falhas, DiscoCheioEPastaSomenteLeitura) {
             EXPECT_NE(LeBytes(o.arquivo).find("depois"), std::string::npos);
         }
     }
-}
-
-TEST_F(Falhas, ConfiguracaoCortadaLeVazia) {
-    GravaConfig("Config", "DicasIniciar", "0");
-    GravaConfig("FilesMRU", "File1", pasta / "a.trl");
-    for (const char* raiz : {"config/registro-usuario.json", "registro-maquina.json"}) {
-        const std::string inteiro = LeBytes(pasta / raiz);
-        GravaBytes(pasta / raiz, inteiro.substr(0, inteiro.size() / 2));
-    }
-    EXPECT_EQ(LeConfig("Config", "DicasIniciar") + LeConfig("FilesMRU", "File1"), "");
-    // The next write starts a fresh root and keeps the cut one aside.
-    GravaConfig("Config", "DicasIniciar", "1");
-    EXPECT_EQ(LeConfig("Config", "DicasIniciar"), "1");
-    EXPECT_TRUE(std::filesystem::exists(pasta / "config/registro-usuario.json.danificado"));
 }
 
 // Each allocation of "Calcular" in turn fails: each time the run ends with

@@ -1,4 +1,4 @@
-// The settings store: key paths, roots, the read limit, typed values and the
+// The settings store: the read limit, typed values and damaged or unwritable
 // files on disk; and the recent files kept in it.
 #include "pasta_temporaria.h"
 
@@ -17,59 +17,6 @@ class ShellRegistro : public ::testing::Test {
     void SetUp() override { DefinePastasRegistro(pasta / "usuario", pasta / "dados"); }
     PastaTemporaria pasta;
 };
-
-TEST_F(ShellRegistro, SecoesValoresEBrancos) {
-    EXPECT_EQ(LeConfig("Config", "Barra0"), ""); // no file yet
-    EXPECT_EQ(ChaveDaSecao("Config"), "Software\\Quillon\\Tramelo\\2.0\\Config");
-
-    // A section that doesn't exist is made, path and all, by the first write.
-    GravaConfig("Config\\Menu", "MainLeft", "1200");
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "1200");
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainTop"), "");
-    EXPECT_EQ(LeConfig("Config\\Outra", "MainLeft"), "");
-    // Keys and value names compare without case, as the platform's do.
-    EXPECT_EQ(
-        LeChave(HKEY_CURRENT_USER, "SOFTWARE\\quillon\\Tramelo\\2.0\\config\\MENU", "mainleft"),
-        "1200");
-    GravaConfig("Config\\Menu", "MAINLEFT", "900"); // the same value, not a second one
-    EXPECT_EQ(LeConfig("Config\\Menu", "MainLeft"), "900");
-
-    // An empty text is stored as one blank.
-    GravaConfig("Config", "DicasIniciar", "");
-    EXPECT_EQ(LeConfig("Config", "DicasIniciar"), " ");
-    // The key's default value has the empty name.
-    GravaChave(HKEY_CLASSES_ROOT, ".trl", "", "Tramelo.File");
-    EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", ""), "Tramelo.File");
-    EXPECT_EQ(LeChave(0x80000003, ".trl", ""), ""); // no such root
-    EXPECT_FALSE(GravaChave(0x80000003, ".trl", "", "x"));
-
-    // Text goes through the 8-bit code page: its accents stay, the rest is "?".
-    GravaConfig("Config", "Nome", "Água à vista €");
-    EXPECT_EQ(LeConfig("Config", "Nome"), "Água à vista €");
-    GravaConfig("Config", "Nome", "Δp");
-    EXPECT_EQ(LeConfig("Config", "Nome"), "?p");
-}
-
-TEST_F(ShellRegistro, RaizPelosSeisPrimeirosCaracteres) {
-    const struct {
-        const char* secao;
-        uint32_t raiz;
-    } casos[] = {
-        {"Config\\Menu", HKEY_CURRENT_USER}, {"Configuration", HKEY_CURRENT_USER},
-        {"config", HKEY_LOCAL_MACHINE},      {"Confi", HKEY_LOCAL_MACHINE},
-        {"System", HKEY_LOCAL_MACHINE},
-    };
-    // One value name a row: "Config" and "config" are one key in a root.
-    int n = 0;
-    for (const auto& c : casos) {
-        const std::string v = "v" + std::to_string(n++);
-        GravaConfig(c.secao, v, c.secao);
-        const uint32_t outra = c.raiz == HKEY_CURRENT_USER ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
-        EXPECT_EQ(LeChave(c.raiz, ChaveDaSecao(c.secao), v), c.secao) << c.secao;
-        EXPECT_EQ(LeChave(outra, ChaveDaSecao(c.secao), v), "") << c.secao;
-        EXPECT_EQ(LeConfig(c.secao, v), c.secao) << c.secao;
-    }
-}
 
 TEST_F(ShellRegistro, LimiteDeLeitura) {
     // The buffer holds 1024 characters of the code page, the terminating
