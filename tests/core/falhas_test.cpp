@@ -32,8 +32,9 @@
 #include <unistd.h>
 
 // The disk as the tests script it: files opened for writing under one folder
-// fail, on open with EROFS (a read-only folder) or on the flush with ENOSPC
-// (a full disk, found when the buffered bytes go out). Interposed here,
+// fail, on open with EROFS (a read-only folder) or on the flush with the
+// folder's error (ENOSPC, a full disk found when the buffered bytes go out;
+// EIO, a failing device). Interposed here,
 // in the test program, over the C library's own calls; inactive while no
 // folder is set.
 namespace {
@@ -77,7 +78,7 @@ extern "C" FILE* fopen(const char* caminho, const char* modo) {
 extern "C" int fflush(FILE* f) {
     static auto real = Real<int (*)(FILE*)>("fflush");
     if (!f || !arquivosNoDiscoCheio.count(f)) return real(f);
-    errno = ENOSPC;
+    errno = erroDaPasta;
     return EOF;
 }
 
@@ -138,8 +139,9 @@ TEST_F(Falhas, DiscoCheioEPastaSomenteLeitura) {
          [&](const std::string& texto) { GravaConfig("Config", "Ultimo", texto); }, false},
     };
     for (const Operacao& o : operacoes) {
-        for (const auto& [erro, caixa] : {std::pair(ENOSPC, "Informação de Erro Código :61"),
-                                          std::pair(EROFS, "Informação de Erro Código :75")}) {
+        for (const auto& [erro, caixa] : {std::pair(ENOSPC, ":61Descrição do Erro: Disco cheio"),
+                                          std::pair(EIO, ":57Descrição do Erro: Erro de E/S do dispositivo"),
+                                          std::pair(EROFS, ":75Descrição do Erro: Erro de acesso ao caminho/arquivo")}) {
             SCOPED_TRACE(o.arquivo + " " + std::strerror(erro));
             o.grava("antes");
             const std::string antes = LeBytes(o.arquivo);
@@ -151,7 +153,8 @@ TEST_F(Falhas, DiscoCheioEPastaSomenteLeitura) {
             arquivosNoDiscoCheio.clear();
             EXPECT_EQ(LeBytes(o.arquivo), antes);
             ASSERT_EQ(caixas.mostradas.size(), o.caixa ? 1u : 0u);
-            if (o.caixa) EXPECT_EQ(caixas.mostradas[0].titulo, caixa);
+            const CaixaMostrada c = o.caixa ? caixas.mostradas.at(0) : CaixaMostrada{};
+            if (o.caixa) EXPECT_EQ(c.titulo + c.texto.substr(0, c.texto.find('\n')), "Informação de Erro Código " + std::string(caixa));
             else EXPECT_EQ(LeConfig("Config", "Ultimo"), "antes");
             // Nothing half-written is left beside it, and the program goes on:
             // with room again, the same operation writes.

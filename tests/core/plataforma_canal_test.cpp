@@ -151,6 +151,7 @@ TEST_F(PlataformaCanal, GravacaoSubstituiOAnteriorSoAoFecharETabula) {
     canal1().Fecha();
     EXPECT_EQ(LeBytes(Nome("novo.trl")), "\"x\"\r\n");
     canal1().AbreSaida(Nome("t.txt"));
+    canal1().Tab(3); // a new file starts at the first column
     canal1().Imprime("abcdef");
     canal1().Tab(5); // past it: the next line
     canal1().Imprime("x");
@@ -158,7 +159,7 @@ TEST_F(PlataformaCanal, GravacaoSubstituiOAnteriorSoAoFecharETabula) {
     canal1().Tab(0); // below the first column: the first
     canal1().Escreve({});
     canal1().Fecha();
-    EXPECT_EQ(LeBytes(Nome("t.txt")), "abcdef\r\n    x\r\n\r\n");
+    EXPECT_EQ(LeBytes(Nome("t.txt")), "  abcdef\r\n    x\r\n\r\n");
 }
 
 // Every byte of the code page has a character and comes back; what the page

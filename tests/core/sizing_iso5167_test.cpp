@@ -79,6 +79,9 @@ TEST(Iso5167, CasosForaDaNorma) {
         // More flow than a bore of the whole pipe passes.
         {Ponto(0, Flange, 1000, 998, 0.001, 102.26, 25000),
          "O diâmetro do orifício pela ISO 5167-2 não converge para estes dados."},
+        // A flow beyond any number: the first step has no beta to work with.
+        {Ponto(0, Flange, 1e200, 998, 0.001, 102.26, 25000),
+         "O diâmetro do orifício pela ISO 5167-2 não converge para estes dados."},
     };
     for (const auto& [e, motivo] : casos) {
         ResultadoIso r = CalculaIso5167(e);

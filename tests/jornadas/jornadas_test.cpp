@@ -318,7 +318,7 @@ TEST_F(Jornada, TabelasDicasOpcoesESobre) {
     x.Tecla("Escape");
     EXPECT_TRUE(x.EsperaSumir("label", "Você sabia...", 5000));
     Menu({"E&xibir", "&Opções..."});
-    ASSERT_TRUE(x.Espera("dialog", "Opções", 5000));
+    ASSERT_TRUE(x.Espera("check box", "Barra de Ferramentas de Cálculo", 5000)); // each box by its caption
     x.Tecla("Escape");
     EXPECT_TRUE(x.EsperaSumir("dialog", "Opções", 5000));
     Menu({"Aj&uda", "&Sobre o Tramelo..."});
