@@ -25,7 +25,6 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <functional>
-#include <new>
 #include <random>
 #include <set>
 #include <sys/wait.h>
@@ -34,9 +33,8 @@
 // The disk as the tests script it: files opened for writing under one folder
 // fail, on open with EROFS (a read-only folder) or on the flush with the
 // folder's error (ENOSPC, a full disk found when the buffered bytes go out;
-// EIO, a failing device). Interposed here,
-// in the test program, over the C library's own calls; inactive while no
-// folder is set.
+// EIO, a failing device). Interposed here, in the test program, over the C
+// library's own calls; inactive while no folder is set.
 namespace {
 
 std::string pastaEmFalha;
@@ -47,21 +45,9 @@ template <typename F> F Real(const char* nome) {
     return reinterpret_cast<F>(dlsym(RTLD_NEXT, nome));
 }
 
-// Memory as the tests script it: while this counts down from N, the Nth
-// allocation after it was set fails, once, as a large one fails when memory
-// runs out; it is -1 after that failure.
-int alocacoesAteFalhar = -1;
-
 } // namespace
 
-void* operator new(std::size_t n) {
-    if (alocacoesAteFalhar >= 0 && alocacoesAteFalhar-- == 0) throw std::bad_alloc();
-    if (void* p = std::malloc(n ? n : 1)) return p;
-    throw std::bad_alloc();
-}
-void* operator new(std::size_t n, const std::nothrow_t&) noexcept { return std::malloc(n ? n : 1); }
-void operator delete(void* p) noexcept { std::free(p); }
-void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+extern int alocacoesAteFalhar; // memoria_roteiro.cpp
 
 extern "C" FILE* fopen(const char* caminho, const char* modo) {
     static auto real = Real<FILE* (*)(const char*, const char*)>("fopen");
@@ -153,8 +139,8 @@ TEST_F(Falhas, DiscoCheioEPastaSomenteLeitura) {
             arquivosNoDiscoCheio.clear();
             EXPECT_EQ(LeBytes(o.arquivo), antes);
             ASSERT_EQ(caixas.mostradas.size(), o.caixa ? 1u : 0u);
-            const CaixaMostrada c = o.caixa ? caixas.mostradas.at(0) : CaixaMostrada{};
-            if (o.caixa) EXPECT_EQ(c.titulo + c.texto.substr(0, c.texto.find('\n')), "Informação de Erro Código " + std::string(caixa));
+            const std::string texto = o.caixa ? caixas.mostradas[0].titulo + caixas.mostradas[0].texto : "";
+            if (o.caixa) EXPECT_EQ(texto.substr(0, texto.find('\n')), "Informação de Erro Código " + std::string(caixa));
             else EXPECT_EQ(LeConfig("Config", "Ultimo"), "antes");
             // Nothing half-written is left beside it, and the program goes on:
             // with room again, the same operation writes.
