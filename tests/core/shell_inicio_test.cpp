@@ -244,7 +244,8 @@ TEST_F(ShellInicio, DicaDoDia) {
     FrmDica sem;
     Form_Load(sem, lugar);
     EXPECT_EQ(std::pair(sem.Left, sem.Top), std::pair(2250, 2100));
-    EXPECT_TRUE(sem.chkDicasIniciar.Value && sem.lblTipText.starts_with("Este arquivo 'DicaDoDia.txt' não foi"));
+    // Drawn at random unless a source is given; the box ticked; the message.
+    EXPECT_TRUE(sem.Rnd && sem.chkDicasIniciar.Value && sem.lblTipText.starts_with("Este arquivo 'DicaDoDia.txt' não foi"));
     // Three tips, drawn by the random number; "Nova Dica" draws again. A data
     // folder of an installed copy without them leaves them beside the program.
     GravaBytes(pasta / "bin/DicaDoDia.txt", "um\r\ndois\r\ntres\r\n");
