@@ -16,8 +16,7 @@ namespace {
 // Water at 20 ºC, flange taps.
 std::unique_ptr<FrmCalcTramelo> Liquido() {
     auto f = CalculoPronto(0, 1);
-    Preenche(*f, {{2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"},
-                  {18, "998"}, {20, "1"}, {28, "0,8"}});
+    Preenche(*f, Agua);
     return f;
 }
 

@@ -139,8 +139,8 @@ TEST_F(Falhas, DiscoCheioEPastaSomenteLeitura) {
             arquivosNoDiscoCheio.clear();
             EXPECT_EQ(LeBytes(o.arquivo), antes);
             ASSERT_EQ(caixas.mostradas.size(), o.caixa ? 1u : 0u);
-            const std::string texto = o.caixa ? caixas.mostradas[0].titulo + caixas.mostradas[0].texto : "";
-            if (o.caixa) EXPECT_EQ(texto.substr(0, texto.find('\n')), "Informação de Erro Código " + std::string(caixa));
+            if (o.caixa) EXPECT_EQ(caixas.mostradas[0].titulo + caixas.mostradas[0].texto.substr(0, caixas.mostradas[0].texto.find('\n')),
+                                   "Informação de Erro Código " + std::string(caixa));
             else EXPECT_EQ(LeConfig("Config", "Ultimo"), "antes");
             // Nothing half-written is left beside it, and the program goes on:
             // with room again, the same operation writes.
@@ -160,8 +160,7 @@ TEST_F(Falhas, DiscoCheioEPastaSomenteLeitura) {
 // failure 7, nothing escapes, and the next run completes.
 TEST_F(Falhas, MemoriaEsgotadaNoCalculo) {
     auto f = CalculoPronto(0, 1);
-    Preenche(*f, {{2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"},
-                  {18, "998"}, {20, "1"}, {28, "0,8"}});
+    Preenche(*f, Agua);
     for (int k = 0;; ++k) {
         alocacoesAteFalhar = k;
         const ResultadoCalculo r = cmdCalcular_Click(*f);

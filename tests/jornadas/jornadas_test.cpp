@@ -84,12 +84,13 @@ class Jornada : public ::testing::Test {
     // Read again just before: a table sizes itself to its grid once shown.
     void FechaPelaBarraDeTitulo(const No& janela) {
         const No j = x.Acha(janela.papel, janela.nome).value_or(janela);
+        const int bx = j.x + j.w - 12, by = j.y + 11;
         // The hand rests on the button before it presses: a press that came
         // with the pointer's arrival, on a loaded machine, was dropped by the
         // title bar of a table just opened (3 runs in 6, three journeys at once).
-        x.Comando("xdotool mousemove --sync " + std::to_string(j.x + j.w - 12) + " " + std::to_string(j.y + 11));
+        x.Comando("xdotool mousemove --sync " + std::to_string(bx) + " " + std::to_string(by));
         x.Pausa(300);
-        x.Clica(j.x + j.w - 12, j.y + 11);
+        x.Clica(bx, by);
     }
 
     SessaoX x;

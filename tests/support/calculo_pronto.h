@@ -43,6 +43,11 @@ inline std::unique_ptr<FrmCalcTramelo> CalculoPronto(int fluido, int tomada, int
     return f;
 }
 
+// The liquid case of the worked figures: water at 20 ºC through flange taps,
+// every other field as the window leaves it.
+inline const std::vector<std::pair<int, std::string>> Agua = {
+    {2, "50"}, {4, "102,26"}, {5, "25000"}, {8, "20"}, {9, "20"}, {17, "998"}, {18, "998"}, {20, "1"}, {28, "0,8"}};
+
 inline void Preenche(FrmCalcTramelo& f, const std::vector<std::pair<int, std::string>>& valores) {
     for (const auto& [i, texto] : valores)
         f.txtDados(i)->DefineTexto(texto);
