@@ -5,7 +5,7 @@
 #include "plataforma/numero.h"
 #include "sizing/calculo.h"
 #include "sizing/execucao.h"
-#include "sizing/iso5167.h"
+#include "sizing/entrada_iso.h"
 #include "sizing/iteracao.h"
 
 #include <benchmark/benchmark.h>

@@ -6,6 +6,7 @@
 #include "plataforma/ambiente.h"
 #include "report/exportacao.h"
 #include "sizing/calculo.h"
+#include "sizing/entrada_iso.h"
 #include "sizing/execucao.h"
 
 #include <cstdlib>

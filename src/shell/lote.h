@@ -4,7 +4,7 @@
 #pragma once
 
 #include "plataforma/falha.h"
-#include "sizing/iso5167.h"
+#include "iso5167/iso5167.h"
 
 #include <optional>
 #include <string>

@@ -6,7 +6,7 @@
 #include "report/buffer.h"
 #include "sizing/catalogo.h"
 #include "sizing/execucao.h"
-#include "sizing/iso5167.h"
+#include "sizing/entrada_iso.h"
 #include "sizing/iteracao.h"
 #include "sizing/leitura.h"
 #include "sizing/linhas.h"

@@ -10,8 +10,6 @@
 
 namespace tramelo {
 
-struct Execucao;
-
 // The point as the standard wants it, in SI units except the diameters.
 struct EntradaIso {
     bool concluido = false; // the run of "Calcular" reached its report
@@ -26,6 +24,7 @@ struct EntradaIso {
     double p1 = 0;          // absolute pressure upstream, Pa (gas and steam)
     double kappa = 0;       // isentropic exponent (gas and steam)
     double d_legado_mm = 0; // this program's bore, Beta · D
+    double fator_area = 1;  // row 29: the bore's area at the flowing temperature over at 20 ºC
 };
 
 // One limit of use: its value, its bounds (none where open) and the verdict.
@@ -45,9 +44,6 @@ struct ResultadoIso {
     double diferenca_d_pct = 0; // 100 · (d_legado / d − 1)
     std::vector<LimiteIso> limites;
 };
-
-// The point from the values of a run, after its unit conversions.
-EntradaIso EntradaIso5167(const Execucao& x, int Fluido, int Placa, int Tomada, bool concluido);
 
 // The whole check; never throws.
 ResultadoIso CalculaIso5167(const EntradaIso& e);

@@ -1,5 +1,5 @@
 // The ISO 5167-2:2003 check on points past every limit and every case it refuses.
-#include "sizing/iso5167.h"
+#include "iso5167/iso5167.h"
 
 #include <gtest/gtest.h>
 
