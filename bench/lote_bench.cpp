@@ -1,7 +1,7 @@
 // Opening a .trl and running "Calcular" through the command-line tool's path.
 #include "plataforma/canal.h"
-#include "shell/lote.h"
-#include "shell/mod_base.h"
+#include "lote/lote.h"
+#include "base/mod_base.h"
 #include "sizing/catalogo.h"
 
 #include <benchmark/benchmark.h>

@@ -3,7 +3,7 @@
 #include "calculo_pronto.h"
 #include "caixas_roteiro.h"
 #include "plataforma/numero.h"
-#include "sizing/calculo.h"
+#include "document/calculo.h"
 #include "sizing/execucao.h"
 #include "sizing/entrada_iso.h"
 #include "sizing/iteracao.h"

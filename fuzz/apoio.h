@@ -5,7 +5,7 @@
 
 #include "plataforma/ambiente.h"
 #include "plataforma/canal.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 #include "shell/registro.h"
 #include "sizing/catalogo.h"
 

@@ -2,7 +2,7 @@
 // report as an export writes it, close.
 #include "apoio.h"
 
-#include "shell/lote.h"
+#include "lote/lote.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dados, size_t n) {
     using namespace tramelo;

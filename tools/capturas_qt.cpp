@@ -6,18 +6,18 @@
 
 #include "app/programa_qt.h"
 #include "app/servicos_qt.h"
-#include "calculator/calculadora_view.h"
+#include "desktop/calculadora_view.h"
 #include "document/frm_calc_tramelo.h"
 #include "report/frm_relatorio.h"
 #include "report/impressao.h"
 #include "shell/abertura.h"
-#include "shell/abertura_view.h"
-#include "shell/dicas_view.h"
+#include "desktop/abertura_view.h"
+#include "desktop/dicas_view.h"
 #include "shell/entrada.h"
 #include "shell/mdi_menu.h"
-#include "shell/opcoes_view.h"
+#include "desktop/opcoes_view.h"
 #include "shell/registro.h"
-#include "steam/tabela_view.h"
+#include "desktop/tabela_view.h"
 #include <QPrinter>
 #include <QProcess>
 #include <QScreen>

@@ -8,7 +8,7 @@
 
 #include "app/programa_qt.h"
 #include "document/frm_calc_tramelo.h"
-#include "report/relatorio_view.h"
+#include "desktop/relatorio_view.h"
 #include "shell/mdi_menu.h"
 #include "shell/registro.h"
 

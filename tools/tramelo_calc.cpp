@@ -1,8 +1,8 @@
 // tramelo-calc: opens calculation files as the desktop program does, runs
 // "Calcular" on each and prints the reports.
 #include "ajuda_portugues.h"
-#include "shell/lote.h"
-#include "shell/mod_base.h"
+#include "lote/lote.h"
+#include "base/mod_base.h"
 #include "sizing/catalogo.h"
 
 #include <CLI/CLI.hpp>

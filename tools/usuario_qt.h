@@ -3,9 +3,9 @@
 // buttons and menu entries.
 #pragma once
 
-#include "document/calculo_view.h"
+#include "desktop/calculo_view.h"
 #include "document/janelas.h"
-#include "shell/mdi_menu_view.h"
+#include "desktop/mdi_menu_view.h"
 
 #include <QAction>
 #include <QApplication>

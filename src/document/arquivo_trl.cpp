@@ -8,8 +8,8 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/canal.h"
 #include "plataforma/texto.h"
-#include "shell/mod_base.h"
-#include "shell/recentes.h"
+#include "base/mod_base.h"
+#include "base/recentes.h"
 
 namespace tramelo {
 namespace {

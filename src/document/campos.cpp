@@ -2,7 +2,7 @@
 
 #include "document/frm_calc_tramelo.h"
 #include "document/selecoes.h"
-#include "shell/barras.h"
+#include "base/barras.h"
 #include "sizing/catalogo.h"
 
 #include <cmath>

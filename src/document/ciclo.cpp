@@ -8,9 +8,8 @@
 #include "plataforma/ambiente.h"
 #include "report/frm_relatorio.h"
 #include "report/janela_relatorio.h"
-#include "shell/barras.h"
-#include "shell/mdi_menu.h"
-#include "shell/mod_base.h"
+#include "base/barras.h"
+#include "base/mod_base.h"
 #include "sizing/catalogo.h"
 
 #include <algorithm>
@@ -56,6 +55,22 @@ void Remove(FrmCalcTramelo& f) {
 }
 
 } // namespace
+
+FilhoAtivo& filhoAtivo() {
+    static FilhoAtivo a;
+    return a;
+}
+
+void AtivaFilho(FilhoAtivo novo) {
+    FilhoAtivo& a = filhoAtivo();
+    if (a.calculo == novo.calculo && a.relatorio == novo.relatorio) return;
+    if (a.calculo) Form_Deactivate(*a.calculo);
+    if (a.relatorio) Relatorio_Deactivate(*a.relatorio);
+    a = novo;
+    if (a.calculo) Form_Activate(*a.calculo);
+    if (a.relatorio) Relatorio_Activate(*a.relatorio);
+}
+
 
 bool DescarregaCalculo(FrmCalcTramelo& f) {
     if (Form_QueryUnload(f)) return false;

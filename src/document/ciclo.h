@@ -7,6 +7,19 @@
 namespace tramelo {
 
 class FrmCalcTramelo;
+struct FrmRelatorio;
+
+// The active child as the frame reaches it, kept by the desktop.
+struct FilhoAtivo {
+    FrmCalcTramelo* calculo = nullptr;
+    FrmRelatorio* relatorio = nullptr;
+};
+FilhoAtivo& filhoAtivo();
+
+// Makes a child the active one: the window that loses the activation runs
+// its deactivation first, then the new one its activation. Activating the
+// active child again does nothing.
+void AtivaFilho(FilhoAtivo novo);
 
 // Counts each new empty calculation of the run; never lowered.
 long& ContadorCalculos();

@@ -4,8 +4,8 @@
 #include "document/frm_calc_tramelo.h"
 #include "plataforma/falha.h"
 #include "plataforma/numero.h"
-#include "shell/barras.h"
-#include "shell/mod_base.h"
+#include "base/barras.h"
+#include "base/mod_base.h"
 
 namespace tramelo {
 namespace {

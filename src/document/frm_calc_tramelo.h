@@ -3,7 +3,7 @@
 // user's actions to the routines that work on it.
 #pragma once
 
-#include "document/controles.h"
+#include "plataforma/controles.h"
 #include "plataforma/variante.h"
 #include "report/frm_relatorio.h"
 

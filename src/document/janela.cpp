@@ -2,8 +2,8 @@
 
 #include "document/campos.h"
 #include "document/frm_calc_tramelo.h"
-#include "shell/barras.h"
-#include "shell/mod_base.h"
+#include "base/barras.h"
+#include "base/mod_base.h"
 #include "sizing/catalogo.h"
 
 #include <memory>

@@ -5,7 +5,7 @@
 #include "plataforma/falha.h"
 #include "report/exportacao.h"
 #include "report/frm_relatorio.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 
 #include <new>
 #include <string>

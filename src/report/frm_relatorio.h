@@ -2,7 +2,7 @@
 // fields with their labels, the column header, and the window's shown state.
 #pragma once
 
-#include "document/controles.h"
+#include "plataforma/controles.h"
 
 #include <string>
 #include <vector>

@@ -3,7 +3,7 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/falha.h"
 #include "report/frm_relatorio.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 
 #include <new>
 

@@ -1,7 +1,7 @@
 #include "report/janela_relatorio.h"
 
 #include "report/frm_relatorio.h"
-#include "shell/barras.h"
+#include "base/barras.h"
 
 namespace tramelo {
 

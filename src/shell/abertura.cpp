@@ -3,7 +3,7 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/caixas.h"
 #include "shell/entrada.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 
 namespace tramelo {
 

@@ -4,7 +4,7 @@
 #include "plataforma/caixas.h"
 #include "plataforma/texto.h"
 #include "shell/entrada.h"
-#include "shell/instalacao.h"
+#include "base/instalacao.h"
 #include "shell/registro.h"
 
 #include <cerrno>

@@ -2,10 +2,10 @@
 
 #include "plataforma/caixas.h"
 #include "plataforma/canal.h"
-#include "shell/barras.h"
+#include "base/barras.h"
 #include "shell/entrada.h"
-#include "shell/instalacao.h"
-#include "shell/mod_base.h"
+#include "base/instalacao.h"
+#include "base/mod_base.h"
 #include "shell/registro.h"
 
 #include <chrono>

@@ -5,7 +5,7 @@
 #include "plataforma/texto.h"
 #include "shell/abertura.h"
 #include "shell/inicio.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 #include "shell/registro.h"
 #include "sizing/catalogo.h"
 

@@ -9,10 +9,10 @@
 #include "plataforma/texto.h"
 #include "shell/abertura.h"
 #include "shell/associacao.h"
-#include "shell/barras.h"
+#include "base/barras.h"
 #include "shell/entrada.h"
 #include "shell/mdi_menu.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 #include "shell/registro.h"
 
 #include <new>

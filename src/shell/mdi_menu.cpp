@@ -9,17 +9,24 @@
 #include "plataforma/ambiente.h"
 #include "report/frm_relatorio.h"
 #include "report/janela_relatorio.h"
-#include "shell/barras.h"
+#include "base/barras.h"
 #include "plataforma/numero.h"
-#include "shell/mod_base.h"
-#include "shell/recentes.h"
+#include "base/mod_base.h"
+#include "base/recentes.h"
 #include "shell/registro.h"
-#include "sizing/calculo.h"
+#include "document/calculo.h"
 
 #include <cmath>
 
 namespace tramelo {
 namespace {
+
+// " 1" to " 4": the text of a positive number keeps a blank for its sign,
+// and the stored names have always had it.
+std::string NomeValor(int i) {
+    return " " + std::to_string(i);
+}
+
 
 // The same tick on the active child's copy of the menu; a child without it
 // is passed over.
@@ -48,21 +55,6 @@ void AlternaBanda(int b, int o, ItemMenu MdiMenu::*item, ItemMenu FrmCalcTramelo
 }
 
 } // namespace
-
-FilhoAtivo& filhoAtivo() {
-    static FilhoAtivo a;
-    return a;
-}
-
-void AtivaFilho(FilhoAtivo novo) {
-    FilhoAtivo& a = filhoAtivo();
-    if (a.calculo == novo.calculo && a.relatorio == novo.relatorio) return;
-    if (a.calculo) Form_Deactivate(*a.calculo);
-    if (a.relatorio) Relatorio_Deactivate(*a.relatorio);
-    a = novo;
-    if (a.calculo) Form_Activate(*a.calculo);
-    if (a.relatorio) Relatorio_Activate(*a.relatorio);
-}
 
 void InformaFalhaDeCalculo(int numero, const std::string& descricao) {
     InformaErro(ErroExecucao{numero, descricao});
@@ -153,6 +145,19 @@ void mnuAjudaConteudo_Click() {
 
 // The platform's own help viewer doesn't exist here: the same box tells so.
 void mnuAjudaComoUsar_Click() { mnuAjudaConteudo_Click(); }
+
+void CarregaMRU() {
+    for (int i = 1; i <= 4; ++i)
+        FilesMRU()[static_cast<size_t>(i - 1)] = LeConfig("FilesMRU", NomeValor(i));
+}
+
+void GravaMRU() {
+    for (int i = 1; i <= 4; ++i) {
+        const std::string& F = FilesMRU()[static_cast<size_t>(i - 1)];
+        if (F.empty()) break;
+        GravaConfig("FilesMRU", NomeValor(i), F);
+    }
+}
 
 void MdiMenu_Load() {
     // All four toggles start ticked; only the exact text "False" turns one off.

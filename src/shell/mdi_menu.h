@@ -14,18 +14,6 @@ class FrmCalcTramelo;
 struct FrmRelatorio;
 struct MdiMenu;
 
-// The active child as the frame reaches it, kept by the desktop.
-struct FilhoAtivo {
-    FrmCalcTramelo* calculo = nullptr;
-    FrmRelatorio* relatorio = nullptr;
-};
-FilhoAtivo& filhoAtivo();
-
-// Makes a child the active one: the window that loses the activation runs
-// its deactivation first, then the new one its activation. Activating the
-// active child again does nothing.
-void AtivaFilho(FilhoAtivo novo);
-
 // The sizes the toolbars take on screen, in twips, for AjustaBarra; measured
 // by the desktop. Without it the design sizes stand.
 struct MedidasBarras {
@@ -44,6 +32,11 @@ inline std::function<void()> ConfiguraImpressao;
 inline std::function<void()> SairDoPrograma;
 inline std::function<void()> MostraOpcoes; // frmOpcao, modal
 inline std::function<void()> MostraSobre;  // frmSobre, modal
+
+// Read at the frame's load from section "FilesMRU", values " 1" to " 4";
+// stored at each attempt to close the frame, up to the first empty entry.
+void CarregaMRU();
+void GravaMRU();
 
 void mnuArquivoNew_Click();
 void mnuArquivoOpen_Click();

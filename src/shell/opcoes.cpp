@@ -1,6 +1,6 @@
 #include "shell/opcoes.h"
 
-#include "shell/barras.h"
+#include "base/barras.h"
 #include "shell/registro.h"
 
 namespace tramelo {

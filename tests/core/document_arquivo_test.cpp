@@ -11,8 +11,8 @@
 #include "document/janelas.h"
 #include "plataforma/canal.h"
 #include "plataforma/cp1252.h"
-#include "shell/mod_base.h"
-#include "shell/recentes.h"
+#include "base/mod_base.h"
+#include "base/recentes.h"
 
 #include <gtest/gtest.h>
 

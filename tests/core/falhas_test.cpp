@@ -12,9 +12,9 @@
 #include "report/buffer.h"
 #include "report/exportar.h"
 #include "report/frm_relatorio.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 #include "shell/registro.h"
-#include "sizing/calculo.h"
+#include "document/calculo.h"
 
 #include <gtest/gtest.h>
 

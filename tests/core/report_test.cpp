@@ -9,7 +9,7 @@
 #include "report/exportar.h"
 #include "report/frm_relatorio.h"
 #include "report/impressao.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 
 #include "shell/associacao.h"
 #include "shell/entrada.h"
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 #include "shell/registro.h"
 
 #include <gtest/gtest.h>

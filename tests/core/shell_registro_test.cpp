@@ -2,7 +2,7 @@
 // files on disk; and the recent files kept in it.
 #include "pasta_temporaria.h"
 
-#include "shell/recentes.h"
+#include "base/recentes.h"
 #include "shell/registro.h"
 
 #include <gtest/gtest.h>

@@ -5,7 +5,7 @@
 #include "calculo_pronto.h"
 #include "relatorio_dourado.h"
 #include "report/buffer.h"
-#include "sizing/calculo.h"
+#include "document/calculo.h"
 #include "sizing/equacoes.h"
 #include "sizing/execucao.h"
 #include "steam/tabelas_vapor.h"

@@ -7,7 +7,7 @@
 #include "caixas_roteiro.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janela.h"
-#include "shell/barras.h"
+#include "base/barras.h"
 #include "sizing/catalogo.h"
 
 #include <memory>

@@ -1,4 +1,4 @@
-#include "document/controles.h"
+#include "plataforma/controles.h"
 
 #include "plataforma/falha.h"
 

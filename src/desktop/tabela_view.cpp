@@ -1,4 +1,4 @@
-#include "steam/tabela_view.h"
+#include "desktop/tabela_view.h"
 
 #include "steam/tabelas_vapor.h"
 

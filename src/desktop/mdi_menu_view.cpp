@@ -1,7 +1,7 @@
-#include "shell/mdi_menu_view.h"
+#include "desktop/mdi_menu_view.h"
 
-#include "calculator/calculadora_view.h"
-#include "document/calculo_view.h"
+#include "desktop/calculadora_view.h"
+#include "desktop/calculo_view.h"
 #include "document/ciclo.h"
 #include "document/entrada.h"
 #include "document/frm_calc_tramelo.h"
@@ -10,11 +10,11 @@
 #include "report/agora.h"
 #include "report/frm_relatorio.h"
 #include "report/janela_relatorio.h"
-#include "report/relatorio_view.h"
-#include "shell/barras.h"
+#include "desktop/relatorio_view.h"
+#include "base/barras.h"
 #include "shell/mdi_menu.h"
-#include "shell/mod_base.h"
-#include "shell/recentes.h"
+#include "base/mod_base.h"
+#include "base/recentes.h"
 
 #include <QPointer>
 #include <QAction>

@@ -1,4 +1,4 @@
-#include "shell/instalacao.h"
+#include "base/instalacao.h"
 
 #include <filesystem>
 

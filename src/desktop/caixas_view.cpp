@@ -1,4 +1,4 @@
-#include "plataforma/caixas_view.h"
+#include "desktop/caixas_view.h"
 
 #include <QApplication>
 #include <QDialog>

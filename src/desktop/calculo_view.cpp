@@ -1,4 +1,4 @@
-#include "document/calculo_view.h"
+#include "desktop/calculo_view.h"
 
 #include "document/entrada.h"
 #include "document/frm_calc_tramelo.h"

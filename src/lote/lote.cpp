@@ -1,11 +1,11 @@
-#include "shell/lote.h"
+#include "lote/lote.h"
 
 #include "document/ciclo.h"
 #include "document/frm_calc_tramelo.h"
 #include "document/janelas.h"
 #include "plataforma/ambiente.h"
 #include "report/exportacao.h"
-#include "sizing/calculo.h"
+#include "document/calculo.h"
 #include "sizing/entrada_iso.h"
 #include "sizing/execucao.h"
 

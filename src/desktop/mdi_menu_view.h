@@ -4,9 +4,9 @@
 // operations; a child's menu replaces the frame's while that child is active.
 #pragma once
 
-#include "document/calculo_view.h"
+#include "desktop/calculo_view.h"
 #include "document/janelas.h"
-#include "report/relatorio_view.h"
+#include "desktop/relatorio_view.h"
 
 #include <QMainWindow>
 #include <QMdiSubWindow>

@@ -1,6 +1,6 @@
-#include "shell/dicas_view.h"
+#include "desktop/dicas_view.h"
 
-#include "shell/barras.h"
+#include "base/barras.h"
 
 #include <QApplication>
 #include <QCheckBox>

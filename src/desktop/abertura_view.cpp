@@ -1,4 +1,4 @@
-#include "shell/abertura_view.h"
+#include "desktop/abertura_view.h"
 
 #include <QApplication>
 #include <QCursor>

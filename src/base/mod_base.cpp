@@ -1,9 +1,9 @@
-#include "shell/mod_base.h"
+#include "base/mod_base.h"
 
-#include "document/controles.h"
+#include "plataforma/controles.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/texto.h"
-#include "shell/instalacao.h"
+#include "base/instalacao.h"
 
 #include <cstdlib>
 #include <filesystem>

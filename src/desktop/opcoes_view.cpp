@@ -1,4 +1,4 @@
-#include "shell/opcoes_view.h"
+#include "desktop/opcoes_view.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

@@ -37,9 +37,4 @@ void AtualizaMRU(MenuRecentes& Janela);
 // the file name as it stands.
 std::string EncurtaCaminho(const std::string& F);
 
-// Read at the frame's load from section "FilesMRU", values " 1" to " 4";
-// stored at each attempt to close the frame, up to the first empty entry.
-void CarregaMRU();
-void GravaMRU();
-
 } // namespace tramelo

@@ -1,4 +1,4 @@
-#include "sizing/calculo.h"
+#include "document/calculo.h"
 
 #include "document/frm_calc_tramelo.h"
 #include "plataforma/ambiente.h"
@@ -8,8 +8,8 @@
 #include "sizing/execucao.h"
 #include "sizing/entrada_iso.h"
 #include "sizing/iteracao.h"
-#include "sizing/leitura.h"
-#include "sizing/linhas.h"
+#include "document/leitura.h"
+#include "report/linhas.h"
 
 #include <new>
 

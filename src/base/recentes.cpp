@@ -1,7 +1,6 @@
-#include "shell/recentes.h"
+#include "base/recentes.h"
 
 #include "plataforma/texto.h"
-#include "shell/registro.h"
 
 namespace tramelo {
 namespace {
@@ -38,12 +37,6 @@ std::string CasoProprio(const std::string& s) {
         inicioPalavra = c == ' ' || c == '\0' || (c >= '\t' && c <= '\r');
     }
     return r;
-}
-
-// " 1" to " 4": the text of a positive number keeps a blank for its sign,
-// and the stored names have always had it.
-std::string NomeValor(int i) {
-    return " " + std::to_string(i);
 }
 
 } // namespace
@@ -100,19 +93,6 @@ void AtualizaMRU(MenuRecentes& Janela) {
         e.Visible = !F.empty();
     }
     Janela.mnuArquivoMRUVazio.Visible = !Janela.mnuArquivoMRU[0].Visible;
-}
-
-void CarregaMRU() {
-    for (int i = 1; i <= 4; ++i)
-        FilesMRU()[static_cast<size_t>(i - 1)] = LeConfig("FilesMRU", NomeValor(i));
-}
-
-void GravaMRU() {
-    for (int i = 1; i <= 4; ++i) {
-        const std::string& F = FilesMRU()[static_cast<size_t>(i - 1)];
-        if (F.empty()) break;
-        GravaConfig("FilesMRU", NomeValor(i), F);
-    }
 }
 
 } // namespace tramelo

@@ -1,4 +1,4 @@
-#include "report/relatorio_view.h"
+#include "desktop/relatorio_view.h"
 
 #include "report/agora.h"
 #include "report/frm_relatorio.h"

@@ -1,11 +1,11 @@
-#include "sizing/leitura.h"
+#include "document/leitura.h"
 
 #include "document/frm_calc_tramelo.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/numero.h"
 #include "sizing/catalogo.h"
 #include "sizing/execucao.h"
-#include "sizing/linhas.h"
+#include "report/linhas.h"
 
 #include <string>
 

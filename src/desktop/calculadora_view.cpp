@@ -1,9 +1,9 @@
-#include "calculator/calculadora_view.h"
+#include "desktop/calculadora_view.h"
 
 #include "calculator/lugar.h"
 #include "document/frm_calc_tramelo.h"
-#include "plataforma/caixas_view.h"
-#include "shell/mod_base.h"
+#include "desktop/caixas_view.h"
+#include "base/mod_base.h"
 
 #include <QApplication>
 #include <QKeyEvent>

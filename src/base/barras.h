@@ -4,7 +4,7 @@
 // the desktop view only shows this record.
 #pragma once
 
-#include "document/controles.h"
+#include "plataforma/controles.h"
 
 #include <array>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "sizing/linhas.h"
+#include "report/linhas.h"
 
 #include "plataforma/numero.h"
 #include "plataforma/texto.h"
