@@ -1,4 +1,4 @@
-#include "shell/barras.h"
+#include "base/barras.h"
 
 #include "plataforma/caixas.h"
 
