@@ -107,7 +107,7 @@ int main(int argc, char** argv) {
     Captura(&programa.janela(), "02-calculo-liquido");
 
     mnuArquivoNew_Click();
-    programa.janela().SincronizaTudo();
+    programa.janela().AplicaMudancas();
     caixas.textos = {"Ar comprimido"};
     CalculoView& ar = Vista(programa, 1);
     Preenche(ar, 1, 1, 3,
@@ -141,7 +141,7 @@ int main(int argc, char** argv) {
     }
 
     for (int i = 0; i < 2; ++i) {
-        mnuAjudaDocumentacaoTabela(i);
+        emit programa.janela().pedeTabelaVapor(i);
         QMdiSubWindow* tabela = programa.janela().area()->subWindowList().last();
         tabela->resize(720, 420);
         tabela->move(40 + 60 * i, 60 + 40 * i);
@@ -187,7 +187,7 @@ int main(int argc, char** argv) {
     r.txtOS = "OS-1234";
     r.txtCliente = "Usina Norte";
     DialogoImpressao().SegundaPaginaIso = true; // the ISO 5167-2 check on page 2
-    ImprimeRelatorio(r);
+    programa.ImprimeRelatorio(r);
     const QString png = pasta + QStringLiteral("/11-folha-de-dados");
     if (QProcess::execute(QStringLiteral("pdftoppm"),
                           {QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("70"),

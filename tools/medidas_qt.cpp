@@ -103,12 +103,12 @@ int main(int argc, char** argv) {
     dialogos.nomes = {"pdf"};
     QElapsedTimer impressao;
     impressao.start();
-    ImprimeRelatorio(rel);
+    programa.ImprimeRelatorio(rel);
     std::printf("relatório de 60 linhas impresso em PDF: %.1f ms\n",
                 impressao.nsecsElapsed() / 1e6);
     for (int i = 1; i < 10; ++i) {
         mnuArquivoNew_Click();
-        programa.janela().SincronizaTudo();
+        programa.janela().AplicaMudancas();
         QApplication::processEvents();
     }
     QTest::qWait(200);

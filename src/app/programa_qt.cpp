@@ -54,42 +54,21 @@ ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
         telaAbertura() = abertura_.get();
     }
     telaMenu() = this;
-    // The desktop's databases are refreshed in the background: the start
-    // doesn't wait for them.
-    ExecutaFerramenta = [](const std::string& programa, const std::vector<std::string>& argumentos) {
-        const QString caminho = QStandardPaths::findExecutable(QString::fromStdString(programa));
-        if (caminho.isEmpty()) return;
-        QStringList lista;
-        for (const std::string& a : argumentos) lista << QString::fromStdString(a);
-        QProcess::startDetached(caminho, lista);
-    };
+    pedidosDesktop() = this;
     // One run of the program: its frame and its numbering start afresh.
     mdiMenu() = MdiMenu{};
     ContadorCalculos() = 0;
-    // A second start ends at once, before any window.
-    EncerraProcesso = [this] { segundaInstancia_ = true; };
 }
 
 ProgramaQt::~ProgramaQt() {
     // The windows go first, while the records they show still exist.
     janelasCalculo() = nullptr;
-    SairDoPrograma = nullptr;
+    pedidosDesktop() = nullptr;
     janela_.reset();
     filhoAtivo() = {};
     Calculos().clear();
     telaMenu() = nullptr;
-    ExecutaFerramenta = nullptr;
-    mnuAjudaDocumentacaoTabela = nullptr;
-    AbreCalculadora = nullptr;
-    MostraSobre = nullptr;
-    MostraDicas = nullptr;
-    MostraOpcoes = nullptr;
-    ConfiguraImpressao = nullptr;
-    ExportaRelatorio = nullptr;
-    ImprimeRelatorio = nullptr;
     if (telaAbertura() == abertura_.get()) telaAbertura() = nullptr;
-    CalculadoraView::aoEscrever = nullptr;
-    EncerraProcesso = nullptr;
     if (ligacao_) ligacaoInstancias() = nullptr;
     if (caixas_) ambiente().caixas = nullptr;
     if (dialogos_) ambiente().dialogos = nullptr;
@@ -98,7 +77,7 @@ ProgramaQt::~ProgramaQt() {
 
 bool ProgramaQt::Inicia() {
     Main();
-    return !segundaInstancia_;
+    return !sistema_->encerrado;
 }
 
 void ProgramaQt::Carrega() {
@@ -106,41 +85,53 @@ void ProgramaQt::Carrega() {
     if (caixas_) caixas_->DefineDono(janela_.get());
     if (dialogos_) dialogos_->DefineDono(janela_.get());
     janelasCalculo() = janela_.get();
-    SairDoPrograma = [this] { janela_->close(); };
     janela_->aoFechar = [] { return FechaPrograma(); };
-    // The desk calculator opens beside the field it types into.
-    AbreCalculadora = [this](FrmCalcTramelo& f, int indice) {
-        CalculoView* v = janela_->VistaCalculo(f);
-        CalculadoraView::Abre(f, indice, v ? v->CampoDados(indice) : nullptr, janela_.get());
-    };
-    CalculadoraView::aoEscrever = [this] { janela_->SincronizaTudo(); };
-    // The shell's windows and the report's paper and file.
-    MostraSobre = [this] { MostraSobreQt(janela_.get()); };
-    MostraDicas = [this] { MostraDicasQt(janela_.get()); };
-    MostraOpcoes = [this] { MostraOpcoesQt(janela_.get()); };
-    ConfiguraImpressao = [] { mnuArquivoConfigurarImpressao_Click(); };
-    ExportaRelatorio = [](FrmRelatorio& r) {
-        // A reports folder that can't be made has no handler of its own: the
-        // error box, and the report window usable again.
-        try {
-            mnuArquivoExportarRelatorio_Click(r);
-        } catch (const Falha& e) {
-            r.Enabled = true;
-            InformaErro(e);
-        }
-    };
-    ImprimeRelatorio = [](FrmRelatorio& r) {
-        ImpressoraQt impressora(ImpressoraDoPrograma());
-        impressoraInstalada() = &impressora;
-        mnuArquivoImprimir_Click(r);
-        impressoraInstalada() = nullptr;
-    };
+    // The frame's entries for the shell's windows.
+    MdiMenuView* j = janela_.get();
+    QObject::connect(j, &MdiMenuView::pedeSobre, j, [j] { MostraSobreQt(j); });
+    QObject::connect(j, &MdiMenuView::pedeDicas, j, [j] { MostraDicasQt(j); });
+    QObject::connect(j, &MdiMenuView::pedeOpcoes, j, [j] { MostraOpcoesQt(j); });
+    QObject::connect(j, &MdiMenuView::pedeConfigurarImpressao, j,
+                     [] { mnuArquivoConfigurarImpressao_Click(); });
     // Each click makes one more table window; nothing keeps a reference.
-    mnuAjudaDocumentacaoTabela = [this](int indice) {
+    QObject::connect(j, &MdiMenuView::pedeTabelaVapor, j, [j](int indice) {
         auto* tabela = new TabelaView;
         tabela->TabelaInicia(static_cast<short>(indice));
-        janela_->AdicionaFilho(tabela);
-    };
+        j->AdicionaFilho(tabela);
+    });
+}
+
+// The desk calculator opens beside the field it types into.
+void ProgramaQt::AbreCalculadora(FrmCalcTramelo& f, int indice) {
+    if (!janela_) return;
+    CalculoView* v = janela_->VistaCalculo(f);
+    CalculadoraView::Abre(f, indice, v ? v->CampoDados(indice) : nullptr, janela_.get());
+}
+
+void ProgramaQt::ImprimeRelatorio(FrmRelatorio& r) {
+    ImpressoraQt impressora(ImpressoraDoPrograma());
+    impressoraInstalada() = &impressora;
+    mnuArquivoImprimir_Click(r);
+    impressoraInstalada() = nullptr;
+}
+
+void ProgramaQt::ExportaRelatorio(FrmRelatorio& r) {
+    // A reports folder that can't be made has no handler of its own: the
+    // error box, and the report window usable again.
+    try {
+        mnuArquivoExportarRelatorio_Click(r);
+    } catch (const Falha& e) {
+        r.Enabled = true;
+        InformaErro(e);
+    }
+}
+
+void ProgramaQt::MostraDicas() {
+    if (janela_) MostraDicasQt(janela_.get());
+}
+
+void ProgramaQt::Sai() {
+    if (janela_) janela_->close();
 }
 
 bool ProgramaQt::Fecha() {
@@ -156,7 +147,7 @@ void ProgramaQt::Mostra() {
     AplicaEstado();
     janela_->raise();
     janela_->activateWindow();
-    janela_->SincronizaTudo();
+    janela_->AplicaMudancas();
 }
 
 bool ProgramaQt::Visivel() {
@@ -200,12 +191,19 @@ bool EntregaASegunda(int argc, char** argv) {
     if (!ligacao.OutraInstancia()) return false;
     DefineLinhaComando(argc, argv);
     ligacaoInstancias() = &ligacao;
-    bool entregue = false;
-    EncerraProcesso = [&entregue] { entregue = true; };
+    // No window system yet: no events to run and no pointer, only the end.
+    struct SistemaDaEntrega : Sistema {
+        void DoEvents() override {}
+        void MousePointer(int) override {}
+        bool Abre(const std::string&) override { return false; }
+        bool Encerra() override { return entregue = true; }
+        bool entregue = false;
+    } sistema;
+    ambiente().sistema = &sistema;
     Main();
-    EncerraProcesso = nullptr;
+    ambiente().sistema = nullptr;
     ligacaoInstancias() = nullptr;
-    return entregue;
+    return sistema.entregue;
 }
 
 } // namespace

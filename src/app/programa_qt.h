@@ -3,6 +3,7 @@
 // Tests and the tools build the same program with their own scripted boxes.
 #pragma once
 
+#include "base/pedidos.h"
 #include "shell/inicio.h"
 
 #include <memory>
@@ -16,7 +17,7 @@ class SistemaQt;
 class LigacaoQt;
 class AberturaQt;
 
-class ProgramaQt : public TelaMenu {
+class ProgramaQt : public TelaMenu, public PedidosDesktop {
   public:
     // With `servicosDoUsuario` false the caller installs its own message
     // boxes and dialogs, and no link to other instances is made (tests).
@@ -39,6 +40,13 @@ class ProgramaQt : public TelaMenu {
     void GuardaLugar() override;
     void DescarregaOutras() override;
 
+    // PedidosDesktop: the windows the core asks for.
+    void AbreCalculadora(FrmCalcTramelo& f, int indice) override;
+    void ImprimeRelatorio(FrmRelatorio& r) override;
+    void ExportaRelatorio(FrmRelatorio& r) override;
+    void MostraDicas() override;
+    void Sai() override;
+
   private:
     std::unique_ptr<CaixasQt> caixas_;
     std::unique_ptr<DialogosQt> dialogos_;
@@ -46,7 +54,6 @@ class ProgramaQt : public TelaMenu {
     std::unique_ptr<LigacaoQt> ligacao_;
     std::unique_ptr<AberturaQt> abertura_;
     std::unique_ptr<MdiMenuView> janela_;
-    bool segundaInstancia_ = false;
 };
 
 // main(): the Qt application around the program.

@@ -14,6 +14,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -40,6 +42,17 @@ QUrl EnderecoParaUrl(const std::string& caminho) {
     // folder. A one-letter scheme is a drive ("C:/..."), not an address.
     const QUrl url(q);
     return url.isValid() && url.scheme().size() > 1 ? url : QUrl::fromLocalFile(q);
+}
+
+bool SistemaQt::Executa(const std::string& programa, const std::vector<std::string>& argumentos) {
+    // The desktop's databases are refreshed in the background: the start
+    // doesn't wait for them.
+    const QString caminho = QStandardPaths::findExecutable(QString::fromStdString(programa));
+    if (caminho.isEmpty()) return true;
+    QStringList lista;
+    for (const std::string& a : argumentos) lista << QString::fromStdString(a);
+    QProcess::startDetached(caminho, lista);
+    return true;
 }
 
 bool SistemaQt::Abre(const std::string& caminho) {

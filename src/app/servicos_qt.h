@@ -24,6 +24,14 @@ class SistemaQt : public Sistema {
     void DoEvents() override;
     void MousePointer(int forma) override;
     bool Abre(const std::string& caminho) override;
+    bool Executa(const std::string& programa, const std::vector<std::string>& argumentos) override;
+    // A second start is over once it has handed its file: the program
+    // returns from its entry instead of leaving from inside it.
+    bool Encerra() override {
+        encerrado = true;
+        return true;
+    }
+    bool encerrado = false;
 
   private:
     bool ocupado_ = false;

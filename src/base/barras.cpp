@@ -1,6 +1,7 @@
 #include "base/barras.h"
 
 #include "plataforma/caixas.h"
+#include "plataforma/notificador.h"
 
 namespace tramelo {
 namespace {
@@ -32,11 +33,13 @@ BotaoBarra* BarraFerramentas::Botao(std::string_view key) {
 
 void BarraFerramentas::Habilita(std::string_view key, bool habilitado) {
     if (BotaoBarra* b = Botao(key)) b->Enabled = habilitado;
+    Notifica(Mudanca::Barras);
 }
 
 void BarraFerramentas::MostraEtiquetas(bool mostrar) {
     for (BotaoBarra& b : Buttons)
         b.Caption = mostrar ? b.Tag : std::string();
+    Notifica(Mudanca::Barras);
 }
 
 MdiMenu::MdiMenu() {
@@ -61,7 +64,7 @@ MdiMenu& mdiMenu() {
 
 void Atualiza(MdiMenu& m) {
     m.Caption = TituloPrograma;
-    if (AtualizaMRUDoMenu) AtualizaMRUDoMenu(m);
+    Notifica(Mudanca::Barras);
 }
 
 } // namespace tramelo

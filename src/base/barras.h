@@ -7,7 +7,6 @@
 #include "plataforma/controles.h"
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -95,12 +94,7 @@ struct MdiMenu {
 // `mdiMenu() = MdiMenu{}`.
 MdiMenu& mdiMenu();
 
-// Sets the frame's caption to the program's title and refreshes the frame's
-// recent-files menu.
+// Sets the frame's caption to the program's title.
 void Atualiza(MdiMenu& m);
-
-// The refresh of the frame's recent-files menu, installed by the recent files;
-// with none installed that step is passed over.
-inline std::function<void(MdiMenu&)> AtualizaMRUDoMenu;
 
 } // namespace tramelo

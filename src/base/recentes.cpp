@@ -1,6 +1,7 @@
 #include "base/recentes.h"
 
 #include "plataforma/texto.h"
+#include "plataforma/notificador.h"
 
 namespace tramelo {
 namespace {
@@ -61,6 +62,7 @@ void AdicionaMRU(const std::string& Arquivo) {
     for (int j = i; j >= 2; --j)
         f[static_cast<size_t>(j - 1)] = f[static_cast<size_t>(j - 2)];
     f[0] = Arquivo;
+    Notifica(Mudanca::Recentes);
 }
 
 std::string EncurtaCaminho(const std::string& F) {

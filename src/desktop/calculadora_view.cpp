@@ -75,7 +75,6 @@ class BotaoCalculadora : public QWidget {
     bool digito_;
 };
 
-std::function<void()> CalculadoraView::aoEscrever;
 
 CalculadoraView::CalculadoraView(QWidget* dono)
     : QWidget(dono, Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
@@ -253,7 +252,6 @@ void CalculadoraView::ExecutaHandler(int tecla) {
             if (FormPai) {
                 if (CaixaTexto* t = FormPai->txtDados(indice_)) t->DefineTexto(*s.resultado);
             }
-            if (aoEscrever) aoEscrever();
             Fecha();
             return;
         }

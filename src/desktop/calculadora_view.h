@@ -36,8 +36,6 @@ class CalculadoraView : public QWidget {
     // `campo` (its screen rectangle decides above or below).
     static void Abre(FrmCalcTramelo& pai, int indice, QWidget* campo, QWidget* dono);
     static CalculadoraView* Aberta();
-    // Runs after the calculator wrote into a field.
-    static std::function<void()> aoEscrever;
 
   protected:
     void keyPressEvent(QKeyEvent* e) override;

@@ -30,7 +30,6 @@ constexpr int AlturaLinha = 25;
 
 } // namespace
 
-std::function<void()> CalculoView::aoAgir;
 
 CalculoView::CalculoView(FrmCalcTramelo& registro, QWidget* pai)
     : QWidget(pai), registro_(registro) {
@@ -153,8 +152,9 @@ CalculoView::CalculoView(FrmCalcTramelo& registro, QWidget* pai)
 void CalculoView::Age(const std::function<void()>& acao) {
     if (sincronizando_) return;
     acao();
+    // This window shows its own record at once; what the action changed
+    // elsewhere, the core has told the frame.
     Sincroniza();
-    if (aoAgir) aoAgir();
 }
 
 void CalculoView::SincronizaLista(QComboBox* w, const CaixaCombinacao& c) {

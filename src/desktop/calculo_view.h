@@ -34,9 +34,6 @@ class CalculoView : public QWidget {
     // The text field of a row, for the desk calculator to open beside it.
     QLineEdit* CampoDados(int i) const { return txtDados_[static_cast<size_t>(i)]; }
 
-    // Runs after each user action, so the frame and the other windows follow.
-    static std::function<void()> aoAgir;
-
   signals:
     void pedeFechar();
     void duploCliqueCampo(int indice);

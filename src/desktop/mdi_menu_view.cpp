@@ -14,6 +14,7 @@
 #include "base/barras.h"
 #include "shell/mdi_menu.h"
 #include "base/mod_base.h"
+#include "base/pedidos.h"
 #include "base/recentes.h"
 
 #include <QPointer>
@@ -30,6 +31,8 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <utility>
 
 namespace tramelo {
 namespace {
@@ -138,15 +141,40 @@ MdiMenuView::MdiMenuView() {
                               : QSize(Px(m.Width), Px(m.Height));
     setGeometry(QRect(QPoint(Px(m.Left), Px(m.Top)), tamanho));
 
-    CalculoView::aoAgir = [this] { SincronizaTudo(); };
-    ConstroiMenus(Tipo::Frame);
+    ConstroiMenus();
+    AtualizaMenus();
+    AtualizaRecentes();
     SincronizaFrame();
+    notificador().Inscreve(this);
 }
 
 MdiMenuView::~MdiMenuView() {
+    notificador().Desinscreve(this);
     disconnect(area_, nullptr, this, nullptr);
-    CalculoView::aoAgir = nullptr;
     if (janelasCalculo() == this) janelasCalculo() = nullptr;
+}
+
+void MdiMenuView::Mudou(Mudanca tipo, const void* quem) {
+    switch (tipo) {
+    case Mudanca::CalculoFechado:
+        // Its windows go at once; nothing of it may be applied later.
+        if (const auto* f = static_cast<const FrmCalcTramelo*>(quem)) {
+            calculosMudados_.erase(f);
+            relatoriosMudados_.erase(f->Relatorio.get());
+        }
+        ativoMudou_ = true;
+        break;
+    case Mudanca::CalculoAberto:
+    case Mudanca::FilhoAtivado: ativoMudou_ = true; break;
+    case Mudanca::Calculo: calculosMudados_.insert(quem); break;
+    case Mudanca::Relatorio: relatoriosMudados_.insert(quem); break;
+    case Mudanca::Barras: barrasMudaram_ = true; break;
+    case Mudanca::Recentes: recentesMudaram_ = true; break;
+    }
+    if (!aplicacaoPendente_) {
+        aplicacaoPendente_ = true;
+        QMetaObject::invokeMethod(this, &MdiMenuView::AplicaMudancas, Qt::QueuedConnection);
+    }
 }
 
 void MdiMenuView::Acao(const std::function<void()>& acao) {
@@ -161,7 +189,6 @@ void MdiMenuView::Acao(const std::function<void()>& acao) {
         MousePointer(vbDefault);
         InformaErro(ErroExecucao{51, std::string("Erro interno: ") + e.what()});
     }
-    SincronizaTudo();
 }
 
 QMdiSubWindow* MdiMenuView::AdicionaFilho(QWidget* filho) {
@@ -284,8 +311,8 @@ void MdiMenuView::AoAtivar(QMdiSubWindow* janela) {
     } catch (const Falha& e) {
         InformaErro(e);
     }
-    ConstroiMenus(tipo == Tipo::Outro ? Tipo::Outro : tipo);
-    SincronizaTudo();
+    tipoMenu_ = tipo;
+    AtualizaMenus();
 }
 
 void MdiMenuView::SincronizaFrame() {
@@ -316,55 +343,57 @@ void MdiMenuView::SincronizaFrame() {
         parte->setEnabled(m.Enabled);
 }
 
-void MdiMenuView::SincronizaTudo() {
-    SincronizaFrame();
-    // The menu's states (Salvar, the ticks, the recent files) follow the
-    // records too; rebuilt once the current event is done.
-    if (!menusPendentes_) {
-        menusPendentes_ = true;
-        QMetaObject::invokeMethod(this, &MdiMenuView::ReconstroiMenus, Qt::QueuedConnection);
-    }
+void MdiMenuView::AplicaMudancas() {
+    aplicacaoPendente_ = false;
+    const bool barras = std::exchange(barrasMudaram_, false);
+    const bool recentes = std::exchange(recentesMudaram_, false);
+    const bool ativo = std::exchange(ativoMudou_, false);
+    const auto calculos = std::exchange(calculosMudados_, {});
+    const auto relatorios = std::exchange(relatoriosMudados_, {});
+    if (barras) SincronizaFrame();
+    if (recentes) AtualizaRecentes();
     for (Par& p : pares_) {
-        if (!p.inteiro()) continue;
+        const bool c = calculos.count(p.registro) > 0;
+        const bool r = relatorios.count(p.registro->Relatorio.get()) > 0;
+        if (c || r) SincronizaPar(p, c, r);
+    }
+    // The ticks, Salvar and the captions follow the active child's record.
+    if (barras || ativo || calculos.count(filhoAtivo().calculo) ||
+        relatorios.count(filhoAtivo().relatorio))
+        AtualizaMenus();
+}
+
+void MdiMenuView::SincronizaPar(Par& p, bool calculo, bool relatorio) {
+    if (!p.inteiro()) return;
+    if (calculo) {
         p.calculo->Sincroniza();
         p.janelaCalculo->setWindowTitle(Q(p.registro->Caption));
         p.janelaCalculo->setEnabled(p.registro->Enabled);
-        FrmRelatorio& r = *p.registro->Relatorio;
-        p.relatorio->Sincroniza();
-        p.janelaRelatorio->setWindowTitle(Q(r.Caption));
-        const int ordem = p.janelaRelatorio->property("ordemZ").toInt();
-        if (r.Visible && (p.janelaRelatorio->isHidden() || ordem != r.ordemZ)) {
-            // Shown and brought to the front by "Calcular".
-            p.janelaRelatorio->setProperty("ordemZ", r.ordemZ);
-            p.janelaRelatorio->adjustSize();
-            p.janelaRelatorio->show();
-            p.janelaRelatorio->raise();
-            QMetaObject::invokeMethod(
-                this,
-                [this, j = p.janelaRelatorio] {
-                    if (j) area_->setActiveSubWindow(j);
-                },
-                Qt::QueuedConnection);
-        } else if (!r.Visible && !p.janelaRelatorio->isHidden()) {
-            const bool eraAtivo = area_->activeSubWindow() == p.janelaRelatorio;
-            p.janelaRelatorio->hide();
-            // As a hidden child gives the activation to the one beneath it:
-            // its calculation, so "Calcular" is at hand again.
-            if (eraAtivo && !p.janelaCalculo->isHidden())
-                area_->setActiveSubWindow(p.janelaCalculo);
-        }
     }
-}
-
-void MdiMenuView::ReconstroiMenus() {
-    // Never under an open menu: the one the user is opening would be deleted
-    // in their hands. Tried again once it has closed.
-    if (QApplication::activePopupWidget()) {
-        QTimer::singleShot(200, this, &MdiMenuView::ReconstroiMenus);
-        return;
+    if (!relatorio) return;
+    FrmRelatorio& r = *p.registro->Relatorio;
+    p.relatorio->Sincroniza();
+    p.janelaRelatorio->setWindowTitle(Q(r.Caption));
+    const int ordem = p.janelaRelatorio->property("ordemZ").toInt();
+    if (r.Visible && (p.janelaRelatorio->isHidden() || ordem != r.ordemZ)) {
+        // Shown and brought to the front by "Calcular".
+        p.janelaRelatorio->setProperty("ordemZ", r.ordemZ);
+        p.janelaRelatorio->adjustSize();
+        p.janelaRelatorio->show();
+        p.janelaRelatorio->raise();
+        QMetaObject::invokeMethod(
+            this,
+            [this, j = p.janelaRelatorio] {
+                if (j) area_->setActiveSubWindow(j);
+            },
+            Qt::QueuedConnection);
+    } else if (!r.Visible && !p.janelaRelatorio->isHidden()) {
+        const bool eraAtivo = area_->activeSubWindow() == p.janelaRelatorio;
+        p.janelaRelatorio->hide();
+        // As a hidden child gives the activation to the one beneath it:
+        // its calculation, so "Calcular" is at hand again.
+        if (eraAtivo && !p.janelaCalculo->isHidden()) area_->setActiveSubWindow(p.janelaCalculo);
     }
-    menusPendentes_ = false;
-    ConstroiMenus(tipoMenu_);
 }
 
 void MdiMenuView::GuardaLugar() {
@@ -380,7 +409,6 @@ void MdiMenuView::GuardaLugar() {
 void MdiMenuView::closeEvent(QCloseEvent* e) {
     if (aoFechar && !aoFechar()) {
         e->ignore();
-        SincronizaTudo();
         return;
     }
     e->accept();
@@ -443,153 +471,99 @@ void MdiMenuView::PreencheJanela(QMenu* menu) {
     }
 }
 
-void MdiMenuView::ConstroiMenus(Tipo tipo) {
-    tipoMenu_ = tipo;
+void MdiMenuView::ConstroiMenus() {
     QMenuBar* barra = menuBar();
-    for (QAction* a : barra->actions())
-        if (QMenu* m = a->menu()) m->deleteLater();
-    barra->clear();
-    FrmCalcTramelo* calculo = filhoAtivo().calculo;
-    FrmRelatorio* relatorio = filhoAtivo().relatorio;
-    const bool frame = tipo == Tipo::Frame || tipo == Tipo::Outro;
-    const bool rel = tipo == Tipo::Relatorio;
-
+    // Each entry reaches the active child when it runs, not when it was made.
     auto item = [this](QMenu* menu, const QString& texto, std::function<void()> acao,
-                       bool habilitado = true, const QKeySequence& tecla = {}) {
+                       const QKeySequence& tecla = {}) {
         QAction* a = menu->addAction(texto);
-        a->setEnabled(habilitado);
         if (!tecla.isEmpty()) a->setShortcut(tecla);
-        // Run once the menu has closed: an action that shows a box would
-        // otherwise rebuild the menu bar under the open menu, which leaves
-        // the bar dead to the mouse and the keys.
+        // Run once the menu has closed: a box shown under an open menu
+        // leaves the bar dead to the mouse and the keys.
         if (acao)
             connect(a, &QAction::triggered, this, [this, acao] { Acao(acao); },
                     Qt::QueuedConnection);
         return a;
     };
-    auto marcado = [&](QMenu* menu, const ItemMenu& frameItem, const ItemMenu* filhoItem,
-                       void (*acao)()) {
-        // A child's menu has its own captions: the report's "&Etiquetas de
-        // texto" carries a key the frame's doesn't.
-        QAction* a = item(menu, Q(filhoItem ? filhoItem->Caption : frameItem.Caption), acao);
+    auto marcado = [&](QMenu* menu, void (*acao)()) {
+        QAction* a = item(menu, QString(), acao);
         a->setCheckable(true);
-        a->setChecked(filhoItem ? filhoItem->Checked : frameItem.Checked);
+        return a;
     };
+    auto sinal = [this](void (MdiMenuView::*s)()) { return [this, s] { emit(this->*s)(); }; };
+    Menus& m = menus_;
 
     QMenu* arquivo = barra->addMenu(QStringLiteral("&Arquivo"));
-    item(arquivo, QStringLiteral("&Novo"), &mnuArquivoNew_Click, true,
-         QKeySequence(QStringLiteral("Ctrl+O")));
-    item(arquivo, rel ? QStringLiteral("&Abrir...") : QStringLiteral("&Abrir"),
-         &mnuArquivoOpen_Click, true, QKeySequence(QStringLiteral("Ctrl+A")));
-    item(
-        arquivo, frame ? QStringLiteral("&Fechar") : QStringLiteral("Fechar"),
-        [calculo, relatorio] {
-            if (calculo)
-                mnuArquivoFechar_Click(*calculo);
-            else if (relatorio)
-                relatorio->Hide();
-        },
-        !frame);
-    item(arquivo, QStringLiteral("Fechar &todos"), &mnuArquivoFecharTodos_Click, !frame);
+    item(arquivo, QStringLiteral("&Novo"), &mnuArquivoNew_Click, QKeySequence(QStringLiteral("Ctrl+O")));
+    m.abrir = item(arquivo, QString(), &mnuArquivoOpen_Click, QKeySequence(QStringLiteral("Ctrl+A")));
+    m.fechar = item(arquivo, QString(), [] {
+        if (FrmCalcTramelo* c = filhoAtivo().calculo)
+            mnuArquivoFechar_Click(*c);
+        else if (FrmRelatorio* r = filhoAtivo().relatorio)
+            r->Hide();
+    });
+    m.fecharTodos = item(arquivo, QStringLiteral("Fechar &todos"), &mnuArquivoFecharTodos_Click);
     arquivo->addSeparator();
-    item(
+    m.salvar = item(
         arquivo, QStringLiteral("&Salvar"),
-        [calculo] {
-            if (calculo) mnuArquivoSalvar_Click(*calculo);
+        [] {
+            if (FrmCalcTramelo* c = filhoAtivo().calculo) mnuArquivoSalvar_Click(*c);
         },
-        calculo && calculo->mnuArquivoSalvar.Enabled, QKeySequence(QStringLiteral("Ctrl+B")));
-    item(
-        arquivo, QStringLiteral("Salvar &como..."),
-        [calculo] {
-            if (calculo) mnuArquivoSalvarComo_Click(*calculo);
-        },
-        calculo && calculo->mnuArquivoSalvarComo.Enabled);
-    QAction* todos =
-        item(arquivo, rel ? QStringLiteral("Salvar todos") : QStringLiteral("Salvar &todos"),
-             nullptr, calculo && calculo->mnuArquivoSalvarTodos.Enabled);
-    todos->setVisible(!frame);
+        QKeySequence(QStringLiteral("Ctrl+B")));
+    m.salvarComo = item(arquivo, QStringLiteral("Salvar &como..."), [] {
+        if (FrmCalcTramelo* c = filhoAtivo().calculo) mnuArquivoSalvarComo_Click(*c);
+    });
+    m.salvarTodos = item(arquivo, QString(), nullptr);
     arquivo->addSeparator();
     QMenu* exportar = arquivo->addMenu(QStringLiteral("Exportar"));
-    item(
-        exportar, QStringLiteral("Relatório..."),
-        [relatorio] {
-            if (relatorio && ExportaRelatorio) ExportaRelatorio(*relatorio);
-        },
-        !frame);
-    arquivo->addSeparator();
-    item(arquivo, QStringLiteral("Configurar impressão..."), [] {
-        if (ConfiguraImpressao) ConfiguraImpressao();
+    m.exportar = item(exportar, QStringLiteral("Relatório..."), [] {
+        FrmRelatorio* r = filhoAtivo().relatorio;
+        if (r && pedidosDesktop()) pedidosDesktop()->ExportaRelatorio(*r);
     });
-    item(
-        arquivo, rel ? QStringLiteral("Imprimir...") : QStringLiteral("&Imprimir..."),
-        [relatorio] {
-            if (relatorio && ImprimeRelatorio) ImprimeRelatorio(*relatorio);
+    arquivo->addSeparator();
+    item(arquivo, QStringLiteral("Configurar impressão..."), sinal(&MdiMenuView::pedeConfigurarImpressao));
+    m.imprimir = item(
+        arquivo, QString(),
+        [] {
+            FrmRelatorio* r = filhoAtivo().relatorio;
+            if (r && pedidosDesktop()) pedidosDesktop()->ImprimeRelatorio(*r);
         },
-        !frame, QKeySequence(QStringLiteral("Ctrl+P")));
+        QKeySequence(QStringLiteral("Ctrl+P")));
     arquivo->addSeparator();
     QMenu* recentes = arquivo->addMenu(QStringLiteral("Arquivos recentes"));
-    MenuRecentes mru;
-    AtualizaMRU(mru);
-    for (int i = 0; i < 4; ++i) {
-        const EntradaMenu& e = mru.mnuArquivoMRU[static_cast<size_t>(i)];
-        if (!e.Visible) continue;
-        item(recentes, Q(e.Caption),
-             [i] { AbreCalculo(true, FilesMRU()[static_cast<size_t>(i)]); });
-    }
-    if (mru.mnuArquivoMRUVazio.Visible)
-        item(recentes, Q(mru.mnuArquivoMRUVazio.Caption), nullptr, false);
+    for (size_t i = 0; i < m.recentes.size(); ++i)
+        m.recentes[i] = item(recentes, QString(), [i] { AbreCalculo(true, FilesMRU()[i]); });
+    m.vazio = item(recentes, QString(), nullptr);
+    m.vazio->setEnabled(false);
     arquivo->addSeparator();
     item(arquivo, QStringLiteral("Sai&r"),
          [this] { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); });
 
-    const MdiMenu& m = mdiMenu();
     QMenu* exibir = barra->addMenu(QStringLiteral("E&xibir"));
     QMenu* barras = exibir->addMenu(QStringLiteral("&Barra de ferramentas"));
-    marcado(barras, m.mnuExibirBarraPadrao,
-            calculo     ? &calculo->mnuExibirBarraPadrao
-            : relatorio ? &relatorio->mnuExibirBarraPadrao
-                        : nullptr,
-            &mnuExibirBarraPadrao_Click);
-    marcado(barras, m.mnuExibirBarraCalculo,
-            calculo     ? &calculo->mnuExibirBarraCalculo
-            : relatorio ? &relatorio->mnuExibirBarraCalculo
-                        : nullptr,
-            &mnuExibirBarraCalculo_Click);
-    if (!rel) barras->addSeparator();
-    QMenu* etiquetas = rel ? exibir : barras;
-    marcado(etiquetas, m.mnuExibirEtiqueta,
-            calculo     ? &calculo->mnuExibirEtiqueta
-            : relatorio ? &relatorio->mnuExibirEtiqueta
-                        : nullptr,
-            &mnuExibirEtiqueta_Click);
-    marcado(exibir, m.mnuExibirStatusBar,
-            calculo     ? &calculo->mnuExibirStatusBar
-            : relatorio ? &relatorio->mnuExibirStatusBar
-                        : nullptr,
-            &mnuExibirStatusBar_Click);
-    if (!rel) exibir->addSeparator();
-    item(exibir, rel ? QStringLiteral("&Relatórios...") : QStringLiteral("Relatórios"),
-         &mnuExibirRelatorio_Click, true, QKeySequence(QStringLiteral("Ctrl+R")));
-    if (!rel) exibir->addSeparator();
-    item(exibir, QStringLiteral("&Opções..."), [] {
-        if (MostraOpcoes) MostraOpcoes();
-    });
+    m.barraPadrao = marcado(barras, &mnuExibirBarraPadrao_Click);
+    m.barraCalculo = marcado(barras, &mnuExibirBarraCalculo_Click);
+    m.sepBarras = barras->addSeparator();
+    // The report's menu keeps the labels' entry one level up.
+    m.etiquetaBarras = marcado(barras, &mnuExibirEtiqueta_Click);
+    m.etiquetaExibir = marcado(exibir, &mnuExibirEtiqueta_Click);
+    m.statusBar = marcado(exibir, &mnuExibirStatusBar_Click);
+    m.sepExibir1 = exibir->addSeparator();
+    m.relatorios = item(exibir, QString(), &mnuExibirRelatorio_Click, QKeySequence(QStringLiteral("Ctrl+R")));
+    m.sepExibir2 = exibir->addSeparator();
+    item(exibir, QStringLiteral("&Opções..."), sinal(&MdiMenuView::pedeOpcoes));
 
     QMenu* janela = barra->addMenu(QStringLiteral("&Janela"));
-    item(
-        janela, rel ? QStringLiteral("Organizar em &cascata") : QStringLiteral("&Cascata"),
-        [this] { area_->cascadeSubWindows(); }, !frame);
-    item(
-        janela, QStringLiteral("&Organizar ícones"),
-        [this] {
-            int x = 0;
-            for (QMdiSubWindow* j : area_->subWindowList())
-                if (j->isMinimized()) {
-                    j->move(x, area_->viewport()->height() - j->height());
-                    x += j->width();
-                }
-        },
-        !frame);
+    m.cascata = item(janela, QString(), [this] { area_->cascadeSubWindows(); });
+    m.icones = item(janela, QStringLiteral("&Organizar ícones"), [this] {
+        int x = 0;
+        for (QMdiSubWindow* j : area_->subWindowList())
+            if (j->isMinimized()) {
+                j->move(x, area_->viewport()->height() - j->height());
+                x += j->width();
+            }
+    });
+    // The list of windows is made as the menu opens.
     connect(janela, &QMenu::aboutToShow, this, [this, janela] {
         for (QAction* a : janela->actions().mid(2))
             janela->removeAction(a);
@@ -598,28 +572,83 @@ void MdiMenuView::ConstroiMenus(Tipo tipo) {
     });
 
     QMenu* ajuda = barra->addMenu(QStringLiteral("Aj&uda"));
-    item(ajuda, QStringLiteral("&Conteúdo e índice..."), &mnuAjudaConteudo_Click, !frame,
-         QKeySequence(Qt::Key_F1));
-    item(ajuda,
-         rel ? QStringLiteral("Como utilizar a &ajuda...")
-             : QStringLiteral("Como utilizar a ajuda..."),
-         &mnuAjudaComoUsar_Click);
-    item(ajuda, QStringLiteral("Exibir &dicas..."), [] {
-        if (MostraDicas) MostraDicas();
-    });
+    m.conteudo = item(ajuda, QStringLiteral("&Conteúdo e índice..."), &mnuAjudaConteudo_Click,
+                      QKeySequence(Qt::Key_F1));
+    m.comoUsar = item(ajuda, QString(), &mnuAjudaComoUsar_Click);
+    item(ajuda, QStringLiteral("Exibir &dicas..."), sinal(&MdiMenuView::pedeDicas));
     ajuda->addSeparator();
     QMenu* doc = ajuda->addMenu(QStringLiteral("D&ocumentação"));
-    item(doc, QStringLiteral("&Massa do Vapor Superaquecido"), [] {
-        if (mnuAjudaDocumentacaoTabela) mnuAjudaDocumentacaoTabela(0);
-    });
-    item(doc, QStringLiteral("&Volume do Vapor Superaquecido"), [] {
-        if (mnuAjudaDocumentacaoTabela) mnuAjudaDocumentacaoTabela(1);
-    });
+    item(doc, QStringLiteral("&Massa do Vapor Superaquecido"), [this] { emit pedeTabelaVapor(0); });
+    item(doc, QStringLiteral("&Volume do Vapor Superaquecido"), [this] { emit pedeTabelaVapor(1); });
     ajuda->addSeparator();
-    item(ajuda,
-         rel ? QStringLiteral("&Sobre o Tramelo") : QStringLiteral("&Sobre o Tramelo..."), [] {
-             if (MostraSobre) MostraSobre();
-         });
+    m.sobre = item(ajuda, QString(), sinal(&MdiMenuView::pedeSobre));
+}
+
+void MdiMenuView::AtualizaMenus() {
+    const Menus& m = menus_;
+    FrmCalcTramelo* calculo = filhoAtivo().calculo;
+    FrmRelatorio* relatorio = filhoAtivo().relatorio;
+    const bool frame = tipoMenu_ == Tipo::Frame || tipoMenu_ == Tipo::Outro;
+    const bool rel = tipoMenu_ == Tipo::Relatorio;
+    // Each child's menu has captions of its own: the report's carries keys
+    // the frame's doesn't, and the frame's "Fechar" has one the children's lack.
+    m.abrir->setText(rel ? QStringLiteral("&Abrir...") : QStringLiteral("&Abrir"));
+    m.fechar->setText(frame ? QStringLiteral("&Fechar") : QStringLiteral("Fechar"));
+    m.fechar->setEnabled(!frame);
+    m.fecharTodos->setEnabled(!frame);
+    m.salvar->setEnabled(calculo && calculo->mnuArquivoSalvar.Enabled);
+    m.salvarComo->setEnabled(calculo && calculo->mnuArquivoSalvarComo.Enabled);
+    m.salvarTodos->setText(rel ? QStringLiteral("Salvar todos") : QStringLiteral("Salvar &todos"));
+    m.salvarTodos->setEnabled(calculo && calculo->mnuArquivoSalvarTodos.Enabled);
+    m.salvarTodos->setVisible(!frame);
+    m.exportar->setEnabled(!frame);
+    m.imprimir->setText(rel ? QStringLiteral("Imprimir...") : QStringLiteral("&Imprimir..."));
+    m.imprimir->setEnabled(!frame);
+
+    const MdiMenu& f = mdiMenu();
+    auto marca = [&](QAction* a, const ItemMenu& doFrame, const ItemMenu* doCalculo,
+                     const ItemMenu* doRelatorio) {
+        const ItemMenu* filho = calculo ? doCalculo : relatorio ? doRelatorio : nullptr;
+        const ItemMenu& i = filho ? *filho : doFrame;
+        a->setText(Q(i.Caption));
+        a->setChecked(i.Checked);
+    };
+    marca(m.barraPadrao, f.mnuExibirBarraPadrao, calculo ? &calculo->mnuExibirBarraPadrao : nullptr,
+          relatorio ? &relatorio->mnuExibirBarraPadrao : nullptr);
+    marca(m.barraCalculo, f.mnuExibirBarraCalculo,
+          calculo ? &calculo->mnuExibirBarraCalculo : nullptr,
+          relatorio ? &relatorio->mnuExibirBarraCalculo : nullptr);
+    for (QAction* a : {m.etiquetaBarras, m.etiquetaExibir})
+        marca(a, f.mnuExibirEtiqueta, calculo ? &calculo->mnuExibirEtiqueta : nullptr,
+              relatorio ? &relatorio->mnuExibirEtiqueta : nullptr);
+    marca(m.statusBar, f.mnuExibirStatusBar, calculo ? &calculo->mnuExibirStatusBar : nullptr,
+          relatorio ? &relatorio->mnuExibirStatusBar : nullptr);
+    m.sepBarras->setVisible(!rel);
+    m.etiquetaBarras->setVisible(!rel);
+    m.etiquetaExibir->setVisible(rel);
+    m.sepExibir1->setVisible(!rel);
+    m.sepExibir2->setVisible(!rel);
+    m.relatorios->setText(rel ? QStringLiteral("&Relatórios...") : QStringLiteral("Relatórios"));
+
+    m.cascata->setText(rel ? QStringLiteral("Organizar em &cascata") : QStringLiteral("&Cascata"));
+    m.cascata->setEnabled(!frame);
+    m.icones->setEnabled(!frame);
+    m.conteudo->setEnabled(!frame);
+    m.comoUsar->setText(rel ? QStringLiteral("Como utilizar a &ajuda...")
+                            : QStringLiteral("Como utilizar a ajuda..."));
+    m.sobre->setText(rel ? QStringLiteral("&Sobre o Tramelo") : QStringLiteral("&Sobre o Tramelo..."));
+}
+
+void MdiMenuView::AtualizaRecentes() {
+    MenuRecentes mru;
+    AtualizaMRU(mru);
+    for (size_t i = 0; i < menus_.recentes.size(); ++i) {
+        const EntradaMenu& e = mru.mnuArquivoMRU[i];
+        menus_.recentes[i]->setText(Q(e.Caption));
+        menus_.recentes[i]->setVisible(e.Visible);
+    }
+    menus_.vazio->setText(Q(mru.mnuArquivoMRUVazio.Caption));
+    menus_.vazio->setVisible(mru.mnuArquivoMRUVazio.Visible);
 }
 
 } // namespace tramelo

@@ -5,14 +5,17 @@
 #pragma once
 
 #include "desktop/calculo_view.h"
-#include "document/janelas.h"
 #include "desktop/relatorio_view.h"
+#include "document/janelas.h"
+#include "plataforma/notificador.h"
 
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QPointer>
 
+#include <array>
 #include <functional>
+#include <set>
 #include <vector>
 
 class QLabel;
@@ -25,14 +28,15 @@ namespace tramelo {
 class FrmCalcTramelo;
 struct FrmRelatorio;
 
-class MdiMenuView : public QMainWindow, public JanelasCalculo {
+class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador {
     Q_OBJECT
   public:
     MdiMenuView();
     ~MdiMenuView() override;
 
-    // Brings the frame and every child in line with their records.
-    void SincronizaTudo();
+    // What the core said changed, applied now instead of once the current
+    // event is done (before a picture, a measure or the first show).
+    void AplicaMudancas();
     CalculoView* VistaCalculo(const FrmCalcTramelo& f) const;
     RelatorioView* VistaRelatorio(const FrmRelatorio& r) const;
     QMdiArea* area() const { return area_; }
@@ -51,8 +55,19 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo {
     void Ocupado(FrmCalcTramelo& f, bool ocupado) override;
     void BombeiaEventos() override;
 
+    // Observador: the core's word that something changed, kept until applied.
+    void Mudou(Mudanca tipo, const void* quem) override;
+
     // Runs when the user closes the frame; returns false to stay open.
     std::function<bool()> aoFechar;
+
+  signals:
+    // The frame's menu entries whose windows the program makes.
+    void pedeConfigurarImpressao();
+    void pedeOpcoes();
+    void pedeDicas();
+    void pedeSobre();
+    void pedeTabelaVapor(int indice);
 
   protected:
     void closeEvent(QCloseEvent* e) override;
@@ -74,8 +89,10 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo {
     };
 
     void SincronizaFrame();
-    void ConstroiMenus(Tipo tipo);
-    void ReconstroiMenus();
+    void SincronizaPar(Par& p, bool calculo, bool relatorio);
+    void ConstroiMenus();
+    void AtualizaMenus();
+    void AtualizaRecentes();
     void AoAtivar(QMdiSubWindow* janela);
     Tipo TipoDe(QMdiSubWindow* janela, FrmCalcTramelo** calculo, FrmRelatorio** relatorio) const;
     void MostraRelatorio(FrmCalcTramelo& f);
@@ -88,8 +105,24 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo {
     QLabel *status_, *data_, *hora_;
     std::vector<Par> pares_;
     QPointer<QMdiSubWindow> ativo_;
-    Tipo tipoMenu_ = Tipo::Outro;
-    bool menusPendentes_ = false;
+    Tipo tipoMenu_ = Tipo::Frame;
+
+    // The menu bar is made once; these entries change with the active child.
+    // Owned by their menus, which the menu bar owns.
+    struct Menus {
+        QAction *abrir, *fechar, *fecharTodos, *salvar, *salvarComo, *salvarTodos;
+        QAction *exportar, *imprimir;
+        std::array<QAction*, 4> recentes;
+        QAction* vazio;
+        QAction *barraPadrao, *barraCalculo, *sepBarras, *etiquetaBarras, *etiquetaExibir;
+        QAction *statusBar, *sepExibir1, *relatorios, *sepExibir2;
+        QAction *cascata, *icones, *conteudo, *comoUsar, *sobre;
+    } menus_{};
+
+    // What changed since the last application.
+    std::set<const void*> calculosMudados_, relatoriosMudados_;
+    bool barrasMudaram_ = false, recentesMudaram_ = false, ativoMudou_ = false;
+    bool aplicacaoPendente_ = false;
 };
 
 } // namespace tramelo

@@ -2,6 +2,7 @@
 
 #include "document/frm_calc_tramelo.h"
 #include "plataforma/ambiente.h"
+#include "plataforma/notificador.h"
 #include "plataforma/numero.h"
 #include "report/buffer.h"
 #include "sizing/catalogo.h"
@@ -144,8 +145,9 @@ void Rodape(FrmCalcTramelo& f) {
 
 // The standard's answer beside the report, from the values of the run.
 void SegundaOpiniao(FrmCalcTramelo& f, const Execucao& x, bool concluido) {
-    f.Relatorio->lstIso =
-        LinhasIso5167(CalculaIso5167(EntradaIso5167(x, f.Fluido, f.Placa, f.Tomada, concluido)));
+    FrmRelatorio& r = *f.Relatorio;
+    r.iso = CalculaIso5167(EntradaIso5167(x, f.Fluido, f.Placa, f.Tomada, concluido));
+    r.lstIso = LinhasIso5167(r.iso);
 }
 
 void MostraRelatorio(FrmCalcTramelo& f) {
@@ -202,13 +204,18 @@ ResultadoCalculo cmdCalcular_Click(FrmCalcTramelo& f, Execucao* valores) {
     Execucao local;
     Execucao& x = valores ? *valores : local;
     x = Execucao{};
+    ResultadoCalculo r;
     try {
-        return {Executa(f, x) ? FimCalculo::Concluido : FimCalculo::Interrompido, {}};
+        r = {Executa(f, x) ? FimCalculo::Concluido : FimCalculo::Interrompido, {}};
     } catch (const Falha& e) {
-        return {FimCalculo::Falhou, {e.numero(), e.descricao()}};
+        r = {FimCalculo::Falhou, {e.numero(), e.descricao()}};
     } catch (const std::bad_alloc&) {
-        return {FimCalculo::Falhou, {FaltaMemoria, DescricaoFalha(FaltaMemoria)}};
+        r = {FimCalculo::Falhou, {FaltaMemoria, DescricaoFalha(FaltaMemoria)}};
     }
+    // Row 29 and the report's lines change even in a run that stops early.
+    Notifica(Mudanca::Calculo, &f);
+    Notifica(Mudanca::Relatorio, f.Relatorio.get());
+    return r;
 }
 
 } // namespace tramelo

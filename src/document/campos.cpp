@@ -4,6 +4,7 @@
 #include "document/selecoes.h"
 #include "base/barras.h"
 #include "sizing/catalogo.h"
+#include "plataforma/notificador.h"
 
 #include <cmath>
 #include <initializer_list>
@@ -187,6 +188,7 @@ void Lista(FrmCalcTramelo& f, bool Habilitado) {
 }
 
 void AtualizaBarra(FrmCalcTramelo& f) {
+    Notifica(Mudanca::Calculo, &f);
     MdiMenu& m = mdiMenu();
     m.tbCalculo.Habilita("Calcular", f.cmdCalcular.Enabled);
     // A document whose selections aren't all made can't be saved.

@@ -11,6 +11,7 @@
 #include "base/barras.h"
 #include "base/mod_base.h"
 #include "sizing/catalogo.h"
+#include "plataforma/notificador.h"
 
 #include <algorithm>
 #include <new>
@@ -37,6 +38,7 @@ FrmCalcTramelo& CarregaCalculo() {
     lista.push_back(std::make_unique<FrmCalcTramelo>());
     FrmCalcTramelo& f = *lista.back();
     if (JanelasCalculo* j = janelasCalculo()) j->Carregada(f);
+    Notifica(Mudanca::CalculoAberto, &f);
     Form_Load(f);
     return f;
 }
@@ -44,6 +46,7 @@ FrmCalcTramelo& CarregaCalculo() {
 namespace {
 
 void Remove(FrmCalcTramelo& f) {
+    Notifica(Mudanca::CalculoFechado, &f);
     FilhoAtivo& a = filhoAtivo();
     if (a.calculo == &f || a.relatorio == f.Relatorio.get()) a = {};
     if (JanelasCalculo* j = janelasCalculo()) j->Descarregada(f);
@@ -69,6 +72,7 @@ void AtivaFilho(FilhoAtivo novo) {
     a = novo;
     if (a.calculo) Form_Activate(*a.calculo);
     if (a.relatorio) Relatorio_Activate(*a.relatorio);
+    Notifica(Mudanca::FilhoAtivado);
 }
 
 

@@ -6,6 +6,8 @@
 #include "plataforma/numero.h"
 #include "base/barras.h"
 #include "base/mod_base.h"
+#include "base/pedidos.h"
+#include "plataforma/notificador.h"
 
 namespace tramelo {
 namespace {
@@ -48,6 +50,7 @@ void txtDados_KeyUp(FrmCalcTramelo& f, int Index, int KeyCode, int) {
 }
 
 void txtDados_Change(FrmCalcTramelo& f, int Index) {
+    Notifica(Mudanca::Calculo, &f);
     f.DefineAlterado(true);
     if (Index != 9) return;
     CaixaCombinacao* material = f.cboDados(29);
@@ -104,7 +107,7 @@ void barraV_Scroll(FrmCalcTramelo& f) {
 }
 
 void txtDados_DblClick(FrmCalcTramelo& f, int Index) {
-    if (AbreCalculadora) AbreCalculadora(f, Index);
+    if (PedidosDesktop* d = pedidosDesktop()) d->AbreCalculadora(f, Index);
 }
 
 } // namespace tramelo

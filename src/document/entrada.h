@@ -3,8 +3,6 @@
 // texts until "Calcular".
 #pragma once
 
-#include <functional>
-
 namespace tramelo {
 
 class FrmCalcTramelo;
@@ -27,11 +25,7 @@ void txtTag_GotFocus(FrmCalcTramelo& f);
 void barraV_Change(FrmCalcTramelo& f);
 void barraV_Scroll(FrmCalcTramelo& f);
 
-// Opens the desk calculator on a row, through AbreCalculadora.
+// Opens the desk calculator on a row, through the desktop.
 void txtDados_DblClick(FrmCalcTramelo& f, int Index);
-
-// The desk calculator's opening on a row of a window. Installed by the
-// calculator window; with none installed a double click does nothing.
-inline std::function<void(FrmCalcTramelo&, int)> AbreCalculadora;
 
 } // namespace tramelo

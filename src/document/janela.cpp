@@ -57,7 +57,6 @@ void Atualiza(FrmCalcTramelo& f) {
         f.Caption = f.ArquivoCalculo.substr(f.ArquivoCalculo.rfind('/') + 1);
     }
     AtualizaBarra(f);
-    if (AtualizaMRUDoCalculo) AtualizaMRUDoCalculo(f);
 }
 
 void ConfereCabecalho(FrmCalcTramelo& f) {

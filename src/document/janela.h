@@ -3,8 +3,6 @@
 // brings the frame's buttons in line with this window.
 #pragma once
 
-#include <functional>
-
 namespace tramelo {
 
 class FrmCalcTramelo;
@@ -31,9 +29,5 @@ void Atualiza(FrmCalcTramelo& f);
 // report was never initialised ("Abrindo"), any difference of the three header
 // texts copies all three and marks the document changed.
 void ConfereCabecalho(FrmCalcTramelo& f);
-
-// The refresh of a calculation window's recent-files menu, installed by the
-// recent files; with none installed that step of Atualiza is passed over.
-inline std::function<void(FrmCalcTramelo&)> AtualizaMRUDoCalculo;
 
 } // namespace tramelo

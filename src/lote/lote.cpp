@@ -6,7 +6,7 @@
 #include "plataforma/ambiente.h"
 #include "report/exportacao.h"
 #include "document/calculo.h"
-#include "sizing/entrada_iso.h"
+#include "plataforma/canal.h"
 #include "sizing/execucao.h"
 
 #include <cstdlib>
@@ -76,6 +76,16 @@ bool LinhaDoFluido(std::string_view s) {
 // Enough of a file to hold any header a user typed.
 constexpr std::streamsize BytesDoCabecalho = 64 * 1024;
 
+// Each file starts as the first of a run would: a file that failed before
+// it may have left the channel taken (the desktop program keeps that, a batch
+// of unrelated files must not) or a window behind.
+void EstadoLimpo() {
+    canal1().Reinicia();
+    for (auto& f : Calculos()) f->DefineAlterado(false);
+    DescarregaTodosCalculos();
+    filhoAtivo() = {};
+}
+
 } // namespace
 
 bool PareceArquivoDeCalculo(std::string_view bytes) {
@@ -97,6 +107,7 @@ bool PareceArquivoDeCalculo(std::string_view bytes) {
 }
 
 ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
+    EstadoLimpo();
     ResultadoLote r;
     r.arquivo = arquivo;
     CaixasLote caixas(r, sim);
@@ -137,8 +148,8 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
         r.mensagens.push_back({"Informação de Erro Código :" + std::to_string(c.erro.numero),
                                "Descrição do Erro: " + c.erro.descricao});
     }
-    r.iso = CalculaIso5167(
-        EntradaIso5167(x, f->Fluido, f->Placa, f->Tomada, c.fim == FimCalculo::Concluido));
+    // The check the run made for its report window, not a second one.
+    r.iso = f->Relatorio->iso;
     r.status = c.fim == FimCalculo::Concluido ? 0 : c.fim == FimCalculo::Interrompido ? 1 : 2;
     // Closed without a question: the tool never saves.
     f->DefineAlterado(false);

@@ -1,5 +1,6 @@
 #include "report/frm_relatorio.h"
 
+#include "plataforma/notificador.h"
 #include "plataforma/texto.h"
 
 namespace tramelo {
@@ -11,9 +12,20 @@ FrmRelatorio::FrmRelatorio() {
     lblMenu = std::move(s);
 }
 
+void FrmRelatorio::Show() {
+    Visible = true;
+    Notifica(Mudanca::Relatorio, this);
+}
+
+void FrmRelatorio::Hide() {
+    Visible = false;
+    Notifica(Mudanca::Relatorio, this);
+}
+
 void FrmRelatorio::ZOrder() {
     static int contador = 0;
     ordemZ = ++contador;
+    Notifica(Mudanca::Relatorio, this);
 }
 
 } // namespace tramelo

@@ -2,6 +2,7 @@
 // fields with their labels, the column header, and the window's shown state.
 #pragma once
 
+#include "iso5167/iso5167.h"
 #include "plataforma/controles.h"
 
 #include <string>
@@ -19,8 +20,9 @@ struct FrmRelatorio {
 
     // The line store; every line begins with the blank that AddRel adds.
     std::vector<std::string> lstRelatorio;
-    // The ISO 5167-2:2003 check of the same run, as text lines for its own
-    // tab and the data sheet's second page; never part of the report.
+    // The ISO 5167-2:2003 check of the same run, and its text lines for its
+    // own tab and the data sheet's second page; never part of the report.
+    ResultadoIso iso;
     std::vector<std::string> lstIso;
 
     // Header fields, and their labels (data: printing and export use them).
@@ -42,8 +44,8 @@ struct FrmRelatorio {
     ItemMenu mnuExibirEtiqueta{"&Etiquetas de texto", true, true};
     ItemMenu mnuExibirStatusBar{"Barra de &status", true, true};
 
-    void Show() { Visible = true; }
-    void Hide() { Visible = false; }
+    void Show();
+    void Hide();
     void ZOrder();
 };
 

@@ -12,7 +12,6 @@ void Relatorio_Activate(FrmRelatorio& r) {
     r.mnuExibirStatusBar.Checked = m.sbStatusBar.Visible;
     r.mnuExibirBarraPadrao.Checked = m.cobBarra.Bands(1).Visible;
     r.mnuExibirBarraCalculo.Checked = m.cobBarra.Bands(2).Visible;
-    if (AtualizaMRUDoRelatorio) AtualizaMRUDoRelatorio(r);
 }
 
 void Relatorio_Deactivate(FrmRelatorio&) {

@@ -2,8 +2,6 @@
 // active, and its close that only hides it.
 #pragma once
 
-#include <functional>
-
 namespace tramelo {
 
 struct FrmRelatorio;
@@ -19,9 +17,5 @@ void Relatorio_Unload(FrmRelatorio& r);
 // A user's close (close box, system menu, "Fechar") hides the window; its
 // lines stay. Returns true: the close is cancelled.
 bool Relatorio_QueryUnload(FrmRelatorio& r, bool fechadoPeloUsuario);
-
-// The refresh of a report window's recent-files menu, installed by the
-// recent files; with none installed that step is passed over.
-inline std::function<void(FrmRelatorio&)> AtualizaMRUDoRelatorio;
 
 } // namespace tramelo

@@ -74,10 +74,8 @@ std::string TipoMimeXml() {
 }
 
 void Executa(const std::string& programa, const std::vector<std::string>& argumentos) {
-    if (ExecutaFerramenta)
-        ExecutaFerramenta(programa, argumentos);
-    else
-        ExecutaSeInstalada(programa, argumentos);
+    Sistema* s = ambiente().sistema;
+    if (!s || !s->Executa(programa, argumentos)) ExecutaSeInstalada(programa, argumentos);
 }
 
 // The desktop's side of the association: a desktop entry that opens the

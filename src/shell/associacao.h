@@ -39,8 +39,7 @@ std::string PastaDadosUsuario();
 std::string ArgumentoExec(const std::string& caminho);
 
 // Runs a tool found on PATH, with its output thrown away; nothing when the
-// tool isn't installed. Tests replace it.
-inline std::function<void(const std::string&, const std::vector<std::string>&)> ExecutaFerramenta;
+// tool isn't installed. The platform's own Executa goes first.
 void ExecutaSeInstalada(const std::string& programa, const std::vector<std::string>& argumentos);
 
 } // namespace tramelo

@@ -36,10 +36,8 @@ void SegundaInstancia(LigacaoInstancias& lblDDE) {
         lblDDE.Envia("/P " + LinhaComando(), TempoLimiteLigacao);
     } catch (...) {
     }
-    if (EncerraProcesso)
-        EncerraProcesso();
-    else
-        std::exit(0);
+    Sistema* s = ambiente().sistema;
+    if (!s || !s->Encerra()) std::exit(0);
 }
 
 } // namespace

@@ -68,7 +68,4 @@ void LeLinhaComando();
 // catalogues and goes on with the bring-up.
 void Main();
 
-// How a second start ends: at once, with nothing written. Tests replace it.
-inline std::function<void()> EncerraProcesso;
-
 } // namespace tramelo

@@ -13,6 +13,7 @@
 #include "shell/entrada.h"
 #include "shell/mdi_menu.h"
 #include "base/mod_base.h"
+#include "base/pedidos.h"
 #include "shell/registro.h"
 
 #include <new>
@@ -55,8 +56,8 @@ void IniciaPrograma() {
         const bool Abrir = !ArquivoInicial.empty();
         if (LeConfig("Config", "DicasIniciar") == "0" || Abrir)
             AbreCalculo(Abrir, ArquivoInicial);
-        else if (MostraDicas)
-            MostraDicas();
+        else if (PedidosDesktop* d = pedidosDesktop())
+            d->MostraDicas();
     } catch (const Falha& e) {
         InformaErro(e);
         MostraMenu();

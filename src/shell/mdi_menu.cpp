@@ -12,9 +12,11 @@
 #include "base/barras.h"
 #include "plataforma/numero.h"
 #include "base/mod_base.h"
+#include "base/pedidos.h"
 #include "base/recentes.h"
 #include "shell/registro.h"
 #include "document/calculo.h"
+#include "plataforma/notificador.h"
 
 #include <cmath>
 
@@ -42,6 +44,7 @@ void MarcaNoFilho(ItemMenu FrmCalcTramelo::*noCalculo, ItemMenu FrmRelatorio::*n
 // Band B toggled, O the other one: the coolbar goes when its last band does.
 void AlternaBanda(int b, int o, ItemMenu MdiMenu::*item, ItemMenu FrmCalcTramelo::*noCalculo,
                   ItemMenu FrmRelatorio::*noRelatorio) {
+    Notifica(Mudanca::Barras);
     MdiMenu& m = mdiMenu();
     if (m.cobBarra.Visible) {
         if (!m.cobBarra.Bands(o).Visible) m.cobBarra.Visible = false;
@@ -101,6 +104,7 @@ void mnuExibirEtiqueta_Click() {
 }
 
 void mnuExibirStatusBar_Click() {
+    Notifica(Mudanca::Barras);
     MdiMenu& m = mdiMenu();
     m.sbStatusBar.Visible = !m.sbStatusBar.Visible;
     m.mnuExibirStatusBar.Checked = m.sbStatusBar.Visible;
@@ -110,7 +114,10 @@ void mnuExibirStatusBar_Click() {
 
 void AjustaBarra() {
     MdiMenu& m = mdiMenu();
-    MedidasBarras medidas = MedeBarras ? MedeBarras() : MedidasBarras{};
+    // The toolbars' design sizes, in twips, with the text labels on.
+    struct {
+        int alturaPadrao = 540, larguraPadrao = 3000, larguraCalculo = 4215;
+    } medidas;
     Banda& b1 = m.cobBarra.Bands(1);
     Banda& b2 = m.cobBarra.Bands(2);
     if (m.mnuExibirEtiqueta.Checked) {
@@ -149,6 +156,7 @@ void mnuAjudaComoUsar_Click() { mnuAjudaConteudo_Click(); }
 void CarregaMRU() {
     for (int i = 1; i <= 4; ++i)
         FilesMRU()[static_cast<size_t>(i - 1)] = LeConfig("FilesMRU", NomeValor(i));
+    Notifica(Mudanca::Recentes);
 }
 
 void GravaMRU() {
@@ -204,6 +212,7 @@ void HabilitaMenu(bool Habilitado) {
     DoEvents();
     MousePointer(Habilitado ? vbDefault : vbHourglass);
     mdiMenu().Enabled = Habilitado;
+    Notifica(Mudanca::Barras);
     DoEvents();
 }
 
@@ -221,9 +230,9 @@ void tbPadrao_ButtonClick(std::string_view key) {
     } else if (key == "Salvar") {
         if (a.calculo) mnuArquivoSalvar_Click(*a.calculo);
     } else if (key == "Imprimir") {
-        if (a.relatorio && ImprimeRelatorio) ImprimeRelatorio(*a.relatorio);
+        if (a.relatorio && pedidosDesktop()) pedidosDesktop()->ImprimeRelatorio(*a.relatorio);
     } else if (key == "Sair") {
-        if (SairDoPrograma) SairDoPrograma();
+        if (pedidosDesktop()) pedidosDesktop()->Sai();
     }
 }
 
@@ -243,9 +252,9 @@ void tbCalculo_ButtonClick(std::string_view key) {
                 if (i >= 0) txtDados_DblClick(*a.calculo, i);
             }
         } else if (key == "Imprimir") {
-            if (a.relatorio && ImprimeRelatorio) ImprimeRelatorio(*a.relatorio);
+            if (a.relatorio && pedidosDesktop()) pedidosDesktop()->ImprimeRelatorio(*a.relatorio);
         } else if (key == "Exportar") {
-            if (a.relatorio && ExportaRelatorio) ExportaRelatorio(*a.relatorio);
+            if (a.relatorio && pedidosDesktop()) pedidosDesktop()->ExportaRelatorio(*a.relatorio);
         }
     } catch (const Falha&) {
     }

@@ -4,7 +4,6 @@
 // it forwards to AbreCalculo, to the active child, or to the shell.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -13,30 +12,6 @@ namespace tramelo {
 class FrmCalcTramelo;
 struct FrmRelatorio;
 struct MdiMenu;
-
-// The sizes the toolbars take on screen, in twips, for AjustaBarra; measured
-// by the desktop. Without it the design sizes stand.
-struct MedidasBarras {
-    int alturaPadrao = 540, larguraPadrao = 3000, larguraCalculo = 4215;
-};
-inline std::function<MedidasBarras()> MedeBarras;
-
-// What the frame can't do itself: a run-time failure that reached a toolbar
-// action is shown by the caller's edge; the desktop sets these to its own.
-inline std::function<void(int)> mnuAjudaDocumentacaoTabela; // opens a steam table window
-inline std::function<void()> MostraDicas;                   // shows frmDica, not modal
-inline std::function<void(FrmCalcTramelo&, int)> AbreCalculadoraNoCampo;
-inline std::function<void(FrmRelatorio&)> ImprimeRelatorio;
-inline std::function<void(FrmRelatorio&)> ExportaRelatorio;
-inline std::function<void()> ConfiguraImpressao;
-inline std::function<void()> SairDoPrograma;
-inline std::function<void()> MostraOpcoes; // frmOpcao, modal
-inline std::function<void()> MostraSobre;  // frmSobre, modal
-
-// Read at the frame's load from section "FilesMRU", values " 1" to " 4";
-// stored at each attempt to close the frame, up to the first empty entry.
-void CarregaMRU();
-void GravaMRU();
 
 void mnuArquivoNew_Click();
 void mnuArquivoOpen_Click();

@@ -7,6 +7,7 @@
 #include "shell/entrada.h"
 #include "base/mod_base.h"
 #include "shell/registro.h"
+#include "pedidos_roteiro.h"
 
 #include <gtest/gtest.h>
 
@@ -18,23 +19,16 @@ namespace {
 
 const char* const ChaveComando = "Software\\Classes\\Tramelo.File\\Shell\\Open\\Command";
 
-struct Chamada {
-    std::string programa;
-    std::vector<std::string> argumentos;
-};
-
 class ShellAssociacao : public ::testing::Test {
   protected:
     void SetUp() override {
         setenv("XDG_DATA_HOME", (pasta / "share").c_str(), 1);
         DefinePastasRegistro(pasta / "usuario", pasta / "dados");
         PastaExecutavel() = "/opt/tramelo/bin";
-        ExecutaFerramenta = [this](const std::string& p, const std::vector<std::string>& a) {
-            chamadas.push_back({p, a});
-        };
+        ambiente().sistema = &sistema;
     }
     void TearDown() override {
-        ExecutaFerramenta = nullptr;
+        ambiente().sistema = nullptr;
         PastaExecutavel().clear();
         unsetenv("XDG_DATA_HOME");
     }
@@ -43,7 +37,7 @@ class ShellAssociacao : public ::testing::Test {
 
     PastaTemporaria pasta;
     CaixasRoteiro caixas;
-    std::vector<Chamada> chamadas;
+    SistemaRoteiroExecuta sistema;
 };
 
 TEST_F(ShellAssociacao, EntradasGravadas) {
@@ -64,7 +58,7 @@ TEST_F(ShellAssociacao, EntradasGravadas) {
 
     // Without the desktop's runner the cache tools are looked for along PATH,
     // past a folder of the same name, and run to their end.
-    ExecutaFerramenta = nullptr;
+    sistema.executa = false;
     std::filesystem::create_directories(pasta / "d/update-mime-database");
     GravaBytes(pasta / "update-mime-database", "#!/bin/sh\necho \"$@\" > \"$0.txt\"\n");
     std::filesystem::permissions(pasta / "update-mime-database", std::filesystem::perms::owner_all);
@@ -102,7 +96,7 @@ TEST_F(ShellAssociacao, VerificacaoNaPartida) {
         SCOPED_TRACE(c.nome);
         std::filesystem::remove_all(pasta / "dados");
         std::filesystem::remove_all(pasta / "share");
-        chamadas.clear();
+        sistema.executados.clear();
         if (c.extensao) GravaChave(HKEY_CLASSES_ROOT, ".trl", "", *c.extensao);
         if (c.comando) GravaChave(HKEY_LOCAL_MACHINE, ChaveComando, "", *c.comando);
         if (c.associa) GravaConfig("System", "Associa", *c.associa);
@@ -111,7 +105,7 @@ TEST_F(ShellAssociacao, VerificacaoNaPartida) {
 
         EXPECT_TRUE(caixas.mostradas.empty());
         EXPECT_EQ(std::filesystem::exists(Desktop()), c.reescreve);
-        EXPECT_EQ(chamadas.size(), c.reescreve ? 2u : 0u);
+        EXPECT_EQ(sistema.executados.size(), c.reescreve ? 2u : 0u);
         EXPECT_EQ(LeChave(HKEY_CLASSES_ROOT, ".trl", ""),
                   c.reescreve ? std::string("Tramelo.File") : c.extensao.value_or(""));
         EXPECT_EQ(LeChave(HKEY_LOCAL_MACHINE, ChaveComando, ""),

@@ -18,6 +18,7 @@
 #include "base/recentes.h"
 #include "shell/registro.h"
 #include "sizing/catalogo.h"
+#include "pedidos_roteiro.h"
 
 #include <gtest/gtest.h>
 
@@ -44,6 +45,13 @@ class TelaMenuRoteiro : public TelaMenu {
     bool visivel = false, mostraFalha = false;
 };
 
+// The tips are shown among the frame's own events.
+struct PedidosDaTela : PedidosRoteiro {
+    explicit PedidosDaTela(TelaMenuRoteiro& t) : tela(t) {}
+    void MostraDicas() override { tela.eventos.push_back("dica"); }
+    TelaMenuRoteiro& tela;
+};
+
 class ShellInicio : public ::testing::Test {
   protected:
     void SetUp() override {
@@ -58,16 +66,16 @@ class ShellInicio : public ::testing::Test {
         Limpa();
         FilesMRU() = {};
         mdiMenu() = MdiMenu{};
-        ExecutaFerramenta = [](const std::string&, const std::vector<std::string>&) {};
+        ambiente().sistema = &sistema;
         telaMenu() = &tela;
-        MostraDicas = [this] { tela.eventos.push_back("dica"); };
+        pedidosDesktop() = &pedidos;
     }
     void TearDown() override {
         Limpa();
         mdiMenu() = MdiMenu{};
         telaMenu() = nullptr;
-        MostraDicas = nullptr;
-        ExecutaFerramenta = nullptr;
+        pedidosDesktop() = nullptr;
+        ambiente().sistema = nullptr;
         PastaExecutavel().clear();
         LinhaComando().clear();
         modBase().ArquivoInicial.clear();
@@ -96,6 +104,8 @@ class ShellInicio : public ::testing::Test {
     PastaTemporaria pasta;
     CaixasRoteiro caixas;
     TelaMenuRoteiro tela;
+    PedidosDaTela pedidos{tela};
+    SistemaRoteiroExecuta sistema;
 };
 
 TEST(ShellEntrada, LinhaDeComandoParaArquivoInicial) {
@@ -225,14 +235,10 @@ TEST_F(ShellInicio, MenuCarregadoEDescarregadoComAsConfiguracoes) {
     // report open does nothing, "Sair" asks the program to end.
     mnuExibirBarraPadrao_Click();
     EXPECT_FALSE(m.cobBarra.Visible || m.cobBarra.Bands(1).Visible || m.mnuExibirBarraPadrao.Checked);
-    std::string chamados;
-    ExportaRelatorio = [&](FrmRelatorio&) { chamados += "exporta "; };
-    SairDoPrograma = [&] { chamados += "sai"; };
+    pedidos.pedidos.clear();
     tbCalculo_ButtonClick("Exportar");
     tbPadrao_ButtonClick("Sair");
-    ExportaRelatorio = nullptr;
-    SairDoPrograma = nullptr;
-    EXPECT_EQ(chamados, "sai");
+    EXPECT_EQ(pedidos.pedidos, "sai");
 }
 
 TEST_F(ShellInicio, DicaDoDia) {

@@ -158,9 +158,12 @@ TEST_F(ShellLote, StatusDeSaida) {
     EXPECT_EQ(falha.status, 2);
     EXPECT_EQ(nlohmann::json::parse(falha.saida)[0]["erro"], nlohmann::json::parse(R"({"numero": 13, "descricao": "Tipos incompatíveis"})"));
 
-    Saida curto = Executa("--json " + pasta / "curto.trl");
+    // The damaged file fails alone: the one after it runs as if it weren't there.
+    Saida curto = Executa("--json " + Exemplo("agua.trl") + " " + pasta / "curto.trl " + Exemplo("agua.trl"));
     EXPECT_EQ(curto.status, 2);
-    EXPECT_EQ(nlohmann::json::parse(curto.saida)[0]["erro"], nlohmann::json::parse(R"({"numero": 62, "descricao": "Entrada além do fim do arquivo"})"));
+    auto c = nlohmann::json::parse(curto.saida);
+    EXPECT_EQ(c[1]["erro"], nlohmann::json::parse(R"({"numero": 62, "descricao": "Entrada além do fim do arquivo"})"));
+    EXPECT_EQ(c[2], c[0]);
 
     // Not calculation files: random bytes, a text, a folder. None is opened;
     // the batch goes on and its status is the highest.

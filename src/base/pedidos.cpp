@@ -1,0 +1,10 @@
+#include "base/pedidos.h"
+
+namespace tramelo {
+
+PedidosDesktop*& pedidosDesktop() {
+    static PedidosDesktop* p = nullptr;
+    return p;
+}
+
+} // namespace tramelo
