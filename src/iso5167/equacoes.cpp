@@ -100,7 +100,8 @@ double IncertezaVazao(double b, double uC, double uEpsilo, double uD, double ud,
 // D and D/2 taps ReD ≥ 16000 β² above β = 0,56.
 double ReDMinimo(double b, int Tomada, double D_mm) {
     if (Tomada == TomadaFlange) return std::max(ReMinimo, ReFlange * (b * b) * D_mm);
-    if (Tomada != TomadaRaio && Tomada != TomadaCanto) return std::numeric_limits<double>::quiet_NaN();
+    if (Tomada != TomadaRaio && Tomada != TomadaCanto)
+        return std::numeric_limits<double>::quiet_NaN();
     if (b > BetaReCanto) return ReCanto * (b * b);
     return ReMinimo;
 }
