@@ -4,7 +4,8 @@
 // uncertainties and limits of use, beside the bore this program found.
 #pragma once
 
-#include <optional>
+#include "iso5167/equacoes.h"
+
 #include <string>
 #include <vector>
 
@@ -27,14 +28,6 @@ struct EntradaIso {
     double fator_area = 1;  // row 29: the bore's area at the flowing temperature over at 20 ºC
 };
 
-// One limit of use: its value, its bounds (none where open) and the verdict.
-struct LimiteIso {
-    std::string nome;
-    double valor = 0;
-    std::optional<double> minimo, maximo;
-    bool ok = false;
-};
-
 struct ResultadoIso {
     bool aplicavel = false;
     std::string motivo; // why not, in Portuguese; empty where it applies
@@ -44,6 +37,10 @@ struct ResultadoIso {
     double diferenca_d_pct = 0; // 100 · (d_legado / d − 1)
     std::vector<LimiteIso> limites;
 };
+
+// Why ISO 5167-2 doesn't apply to this point (in Portuguese); empty where it
+// does. The rating of a given bore refuses the same points.
+std::string MotivoIso5167(const EntradaIso& e);
 
 // The whole check; never throws.
 ResultadoIso CalculaIso5167(const EntradaIso& e);
