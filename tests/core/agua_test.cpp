@@ -1,6 +1,7 @@
 // Water and steam: IAPWS-IF97 region by region against the verification
-// tables of IAPWS R7-97(2012).
+// tables of IAPWS R7-97(2012), the viscosity against IAPWS R12-08.
 #include "agua/if97.h"
+#include "agua/viscosidade.h"
 
 #include <gtest/gtest.h>
 
@@ -115,6 +116,20 @@ TEST(AguaIf97, Regiao3DaPressao) {
     // the liquid branch and below 20,48 MPa on the vapour one.
     EXPECT_FALSE(If97MassaEspecificaRegiao3(100, 640, false));
     EXPECT_FALSE(If97MassaEspecificaRegiao3(18.6, 640, true));
+}
+
+TEST(AguaViscosidade, Tabela4) {
+    // R12-08 Table 4 (μ2 = 1): T in K, ρ in kg/m³, μ in μPa·s.
+    const struct {
+        double T, rho;
+        const char* mu;
+    } tabela[] = {
+        {298.15, 998, "889.735100"}, {298.15, 1200, "1437.649467"}, {373.15, 1000, "307.883622"},
+        {433.15, 1, "14.538324"},    {433.15, 1000, "217.685358"},  {873.15, 1, "32.619287"},
+        {873.15, 100, "35.802262"},  {873.15, 600, "77.430195"},    {1173.15, 1, "44.217245"},
+        {1173.15, 100, "47.640433"}, {1173.15, 400, "64.154608"}};
+    for (const auto& l : tabela)
+        ConfereImpresso(1e6 * ViscosidadeAgua_Pas(l.rho, l.T), l.mu);
 }
 
 } // namespace
