@@ -235,7 +235,7 @@ void MdiMenuView::Mostra(FrmCalcTramelo& f) {
     }
 }
 
-void MdiMenuView::Descarregada(FrmCalcTramelo& f) {
+void MdiMenuView::Descarregada(const FrmCalcTramelo& f) {
     for (auto it = pares_.begin(); it != pares_.end(); ++it) {
         if (it->registro != &f) continue;
         Par par = *it;
@@ -255,7 +255,7 @@ void MdiMenuView::Descarregada(FrmCalcTramelo& f) {
     }
 }
 
-void MdiMenuView::Ocupado(FrmCalcTramelo& f, bool ocupado) {
+void MdiMenuView::Ocupado(const FrmCalcTramelo& f, bool ocupado) {
     if (CalculoView* v = VistaCalculo(f)) v->setEnabled(!ocupado);
     MousePointer(ocupado ? vbHourglass : vbDefault);
 }

@@ -51,8 +51,8 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador
     // JanelasCalculo: the desktop's side of a calculation's life.
     void Carregada(FrmCalcTramelo& f) override;
     void Mostra(FrmCalcTramelo& f) override;
-    void Descarregada(FrmCalcTramelo& f) override;
-    void Ocupado(FrmCalcTramelo& f, bool ocupado) override;
+    void Descarregada(const FrmCalcTramelo& f) override;
+    void Ocupado(const FrmCalcTramelo& f, bool ocupado) override;
     void BombeiaEventos() override;
 
     // Observador: the core's word that something changed, kept until applied.
@@ -95,7 +95,6 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador
     void AtualizaRecentes();
     void AoAtivar(QMdiSubWindow* janela);
     Tipo TipoDe(QMdiSubWindow* janela, FrmCalcTramelo** calculo, FrmRelatorio** relatorio) const;
-    void MostraRelatorio(FrmCalcTramelo& f);
     void Acao(const std::function<void()>& acao);
     void PreencheJanela(QMenu* menu);
     QMenu* MenuBarras();

@@ -108,6 +108,13 @@ class FrmCalcTramelo {
     Rotulo* lblDados(int i);
     CaixaTexto* txtDados(int i);
     CaixaCombinacao* cboDados(int i);
+    // The same for a query, which only reads.
+    const Faixa* picDados(int i) const { return const_cast<FrmCalcTramelo*>(this)->picDados(i); }
+    const Rotulo* lblDados(int i) const { return const_cast<FrmCalcTramelo*>(this)->lblDados(i); }
+    const CaixaTexto* txtDados(int i) const { return const_cast<FrmCalcTramelo*>(this)->txtDados(i); }
+    const CaixaCombinacao* cboDados(int i) const {
+        return const_cast<FrmCalcTramelo*>(this)->cboDados(i);
+    }
 
   private:
     bool alterado_ = false;

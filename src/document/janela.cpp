@@ -42,7 +42,7 @@ void Form_Activate(FrmCalcTramelo& f) {
     ConfereCabecalho(f);
 }
 
-void Form_Deactivate(FrmCalcTramelo&) {
+void Form_Deactivate(const FrmCalcTramelo&) {
     MdiMenu& m = mdiMenu();
     m.tbCalculo.Habilita("Calcular", false);
     m.tbCalculo.Habilita("Calculadora", false);

@@ -17,7 +17,7 @@ void Form_Activate(FrmCalcTramelo& f);
 
 // The buttons that belong to an active document go off; the next window to be
 // activated sets them again for itself.
-void Form_Deactivate(FrmCalcTramelo& f);
+void Form_Deactivate(const FrmCalcTramelo& f);
 
 // The file name follows from the program's "Saves" folder and the caption:
 // ArquivoCalculo becomes PastaSaves, "/" and the caption, and the caption

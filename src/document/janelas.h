@@ -16,8 +16,8 @@ public:
     virtual ~JanelasCalculo() = default;
     virtual void Carregada(FrmCalcTramelo& f) = 0;    // a new record: make its (hidden) window
     virtual void Mostra(FrmCalcTramelo& f) = 0;       // show it and bring it to the top
-    virtual void Descarregada(FrmCalcTramelo& f) = 0; // the record is going: drop its window
-    virtual void Ocupado(FrmCalcTramelo& f, bool ocupado) = 0; // disabled, busy pointer
+    virtual void Descarregada(const FrmCalcTramelo& f) = 0; // the record is going: drop its window
+    virtual void Ocupado(const FrmCalcTramelo& f, bool ocupado) = 0; // disabled, busy pointer
     virtual void BombeiaEventos() = 0;                // let pending window events run
 };
 

@@ -9,6 +9,7 @@
 #include "plataforma/canal.h"
 #include "sizing/execucao.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -121,9 +122,16 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     }
     // A file that can't be opened here goes on to the open, which tells why.
     if (std::ifstream entrada(caminho, std::ios::binary); entrada.is_open()) {
-        std::string inicio(static_cast<size_t>(BytesDoCabecalho), '\0');
-        entrada.read(inicio.data(), BytesDoCabecalho);
-        inicio.resize(static_cast<size_t>(entrada.gcount()));
+        // Read by small pieces until the seven header lines have ended: a
+        // calculation file's header is a few dozen bytes.
+        std::string inicio;
+        char pedaco[512];
+        while (static_cast<std::streamsize>(inicio.size()) < BytesDoCabecalho &&
+               std::count(inicio.begin(), inicio.end(), '\n') < 7) {
+            entrada.read(pedaco, sizeof pedaco);
+            if (entrada.gcount() <= 0) break;
+            inicio.append(pedaco, static_cast<size_t>(entrada.gcount()));
+        }
         if (!entrada.bad() && !PareceArquivoDeCalculo(inicio)) {
             r.arquivoDeCalculo = false;
             r.status = 3;
