@@ -315,6 +315,9 @@ TEST_F(Jornada, TabelasDicasOpcoesESobre) {
         auto janela = x.Espera("frame", titulo, 5000);
         ASSERT_TRUE(janela) << tabela;
         FechaPelaBarraDeTitulo(*janela);
+        // On a loaded machine the title bar of a table just opened may drop
+        // the press; a person whose click did nothing clicks again.
+        if (!x.EsperaSumir("frame", titulo, 3000)) FechaPelaBarraDeTitulo(*janela);
         EXPECT_TRUE(x.EsperaSumir("frame", titulo, 5000)) << tabela;
         x.Comando("xdotool mousemove 640 900"); // the hand moves on
     }
