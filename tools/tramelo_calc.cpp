@@ -63,6 +63,9 @@ nlohmann::json JsonIso(const tramelo::ResultadoIso& r) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // The reports go out through std::cout alone; unsynchronised it buffers
+    // them whole instead of handing each piece to stdio.
+    std::ios::sync_with_stdio(false);
     CLI::App app{"Calcula os arquivos de cálculo (.trl) do Tramelo e imprime seus relatórios.",
                  "tramelo-calc"};
     tramelo::PreparaEmPortugues(app);

@@ -146,12 +146,14 @@ void RelatorioView::Sincroniza() {
         for (const std::string& l : registro_.lstRelatorio)
             lstRelatorio_->addItem(Q(l));
     }
-    igual = static_cast<int>(registro_.lstIso.size()) == lstIso_->count();
+    const std::vector<std::string> iso =
+        registro_.iso ? LinhasIso5167(*registro_.iso) : std::vector<std::string>{};
+    igual = static_cast<int>(iso.size()) == lstIso_->count();
     for (int i = 0; igual && i < lstIso_->count(); ++i)
-        igual = lstIso_->item(i)->text() == Q(registro_.lstIso[static_cast<size_t>(i)]);
+        igual = lstIso_->item(i)->text() == Q(iso[static_cast<size_t>(i)]);
     if (!igual) {
         lstIso_->clear();
-        for (const std::string& l : registro_.lstIso) {
+        for (const std::string& l : iso) {
             auto* item = new QListWidgetItem(Q(l), lstIso_);
             // A limit of use that the point crosses stands out.
             if (l.ends_with("FORA")) item->setForeground(QColor(0xB0, 0x00, 0x00));

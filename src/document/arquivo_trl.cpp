@@ -132,21 +132,19 @@ void TrameloOpen(FrmCalcTramelo& f, const std::string& Arquivo) {
             f.cboTomada.DefineListIndex(NumeroDoItem(c.LeItem()));
             f.txtTag.DefineTexto(c.LeItem());
             // Row lines: a failing step is skipped and the next one runs, so
-            // an unknown row or a unit beyond its list is read and dropped.
+            // an unknown row or a unit beyond its list is read and dropped. A
+            // row without the control (340 on the platform) is passed over
+            // without a throw: every file has rows with no unit list.
             short i = 0;
             while (!c.Eof()) {
                 Passa([&] { i = NumeroDoItem(c.LeItem()); });
                 Passa([&] {
                     std::string texto = c.LeItem();
-                    CaixaTexto* txt = f.txtDados(i);
-                    if (!txt) throw Falha(340, "Elemento de matriz de controle não existe");
-                    txt->DefineTexto(std::move(texto));
+                    if (CaixaTexto* txt = f.txtDados(i)) txt->DefineTexto(std::move(texto));
                 });
                 Passa([&] {
                     short unidade = NumeroDoItem(c.LeItem());
-                    CaixaCombinacao* cbo = f.cboDados(i);
-                    if (!cbo) throw Falha(340, "Elemento de matriz de controle não existe");
-                    cbo->DefineListIndex(unidade);
+                    if (CaixaCombinacao* cbo = f.cboDados(i)) cbo->DefineListIndex(unidade);
                 });
             }
             c.Fecha();

@@ -147,7 +147,6 @@ void Rodape(FrmCalcTramelo& f) {
 void SegundaOpiniao(FrmCalcTramelo& f, const Execucao& x, bool concluido) {
     FrmRelatorio& r = *f.Relatorio;
     r.iso = CalculaIso5167(EntradaIso5167(x, f.Fluido, f.Placa, f.Tomada, concluido));
-    r.lstIso = LinhasIso5167(r.iso);
 }
 
 void MostraRelatorio(FrmCalcTramelo& f) {

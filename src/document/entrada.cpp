@@ -9,6 +9,9 @@
 #include "base/pedidos.h"
 #include "plataforma/notificador.h"
 
+#include <cmath>
+#include <optional>
+
 namespace tramelo {
 namespace {
 
@@ -61,11 +64,10 @@ void txtDados_Change(FrmCalcTramelo& f, int Index) {
     CaixaTexto* temperatura = f.txtDados(9);
     if (!temperatura || !fator) return;
     // A text that isn't a number (13) or is beyond the range of a double (6)
-    // fails to convert; the failure is swallowed and row 29 stays empty.
-    try {
-        fator->DefineTexto(NumeroParaTexto(FatorAcoInox(TextoParaNumero(temperatura->Text()))));
-    } catch (const Falha&) {
-    }
+    // fails to convert; the failure is swallowed and row 29 stays empty. Told
+    // without throwing: a file opened runs this for every row it loads.
+    const std::optional<double> t = LeNumero(temperatura->Text());
+    if (t && !std::isinf(*t)) fator->DefineTexto(NumeroParaTexto(FatorAcoInox(*t)));
 }
 
 void txtTag_Change(FrmCalcTramelo& f) {

@@ -12,7 +12,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
+#include <cstdio>
+#include <memory>
 
 namespace tramelo {
 namespace {
@@ -75,7 +76,7 @@ bool LinhaDoFluido(std::string_view s) {
 }
 
 // Enough of a file to hold any header a user typed.
-constexpr std::streamsize BytesDoCabecalho = 64 * 1024;
+constexpr long BytesDoCabecalho = 64 * 1024;
 
 // Each file starts as the first of a run would: a file that failed before
 // it may have left the channel taken (the desktop program keeps that, a batch
@@ -121,18 +122,21 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
         return r;
     }
     // A file that can't be opened here goes on to the open, which tells why.
-    if (std::ifstream entrada(caminho, std::ios::binary); entrada.is_open()) {
-        // Read by small pieces until the seven header lines have ended: a
-        // calculation file's header is a few dozen bytes.
+    // A plain stdio stream: a file stream's locale and buffer cost more than
+    // the few dozen bytes of a header it would read.
+    if (std::unique_ptr<std::FILE, int (*)(std::FILE*)> entrada(std::fopen(caminho.c_str(), "rb"),
+                                                               &std::fclose);
+        entrada) {
+        // Read by small pieces until the seven header lines have ended.
         std::string inicio;
         char pedaco[512];
-        while (static_cast<std::streamsize>(inicio.size()) < BytesDoCabecalho &&
+        while (static_cast<long>(inicio.size()) < BytesDoCabecalho &&
                std::count(inicio.begin(), inicio.end(), '\n') < 7) {
-            entrada.read(pedaco, sizeof pedaco);
-            if (entrada.gcount() <= 0) break;
-            inicio.append(pedaco, static_cast<size_t>(entrada.gcount()));
+            const size_t n = std::fread(pedaco, 1, sizeof pedaco, entrada.get());
+            if (n == 0) break;
+            inicio.append(pedaco, n);
         }
-        if (!entrada.bad() && !PareceArquivoDeCalculo(inicio)) {
+        if (!std::ferror(entrada.get()) && !PareceArquivoDeCalculo(inicio)) {
             r.arquivoDeCalculo = false;
             r.status = 3;
             MsgBox("Não é um arquivo de cálculo do Tramelo", vbExclamation, "Arquivo: " + arquivo);
@@ -157,7 +161,7 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
                                "Descrição do Erro: " + c.erro.descricao});
     }
     // The check the run made for its report window, not a second one.
-    r.iso = f->Relatorio->iso;
+    r.iso = f->Relatorio->iso.value_or(ResultadoIso{});
     r.status = c.fim == FimCalculo::Concluido ? 0 : c.fim == FimCalculo::Interrompido ? 1 : 2;
     // Closed without a question: the tool never saves.
     f->DefineAlterado(false);

@@ -5,6 +5,7 @@
 #include "iso5167/iso5167.h"
 #include "plataforma/controles.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,10 +21,10 @@ struct FrmRelatorio {
 
     // The line store; every line begins with the blank that AddRel adds.
     std::vector<std::string> lstRelatorio;
-    // The ISO 5167-2:2003 check of the same run, and its text lines for its
-    // own tab and the data sheet's second page; never part of the report.
-    ResultadoIso iso;
-    std::vector<std::string> lstIso;
+    // The ISO 5167-2:2003 check of the same run, never part of the report;
+    // its text lines are made where they are shown (its own tab, the data
+    // sheet's second page), not by every run. None before the first run.
+    std::optional<ResultadoIso> iso;
 
     // Header fields, and their labels (data: printing and export use them).
     std::string txtData = "Abrindo";

@@ -47,7 +47,7 @@ void SegundaPagina(const FrmRelatorio& r) {
     Linha({{ColunaTexto, r.lblOS}, {ColunaCampo, r.txtOS}});
     Linha({{ColunaTexto, r.lblCliente}, {ColunaCampo, r.txtCliente}});
     Linha();
-    for (const std::string& l : r.lstIso)
+    for (const std::string& l : LinhasIso5167(*r.iso))
         Linha({{ColunaTexto, l}});
 }
 
@@ -114,7 +114,7 @@ void mnuArquivoImprimir_Click(FrmRelatorio& r) {
         Linha({{ColunaTexto, r.lblMenu}});
         for (const std::string& l : r.lstRelatorio)
             Linha({{ColunaTexto, l}});
-        if (DialogoImpressao().SegundaPaginaIso && !r.lstIso.empty()) SegundaPagina(r);
+        if (DialogoImpressao().SegundaPaginaIso && r.iso) SegundaPagina(r);
 
         Printer().FimDocumento();
     } catch (const Falha& f) {

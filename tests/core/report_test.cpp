@@ -99,19 +99,21 @@ TEST(Report, SegundaPaginaIso) {
         void NovaPagina() override { saida.push_back("<nova página>"); }
         void FimDocumento() override { saida.push_back("<fim>"); }
     };
-    const std::vector<std::string> iso = {" ISO 5167-2:2003 - segunda opinião",
-                                          " Beta = d/D ___ 0,604197"};
-    // Asked for, the ISO lines, a second page; the last is a report from before any run.
-    const std::tuple<bool, std::vector<std::string>, bool> casos[] = {
-        {true, iso, true}, {false, {iso[0]}, false}, {true, {}, false}};
-    for (const auto& [pedida, linhas, temPagina] : casos) {
+    ResultadoIso naoConcluido;
+    naoConcluido.motivo = "O cálculo não foi concluído.";
+    const std::vector<std::string> iso = {" ISO 5167-2:2003 - segunda opinião", "",
+                                          " Não se aplica: O cálculo não foi concluído."};
+    // Asked for, the run's check, a second page; the last is a report from before any run.
+    const std::tuple<bool, std::optional<ResultadoIso>, bool> casos[] = {
+        {true, naoConcluido, true}, {false, naoConcluido, false}, {true, std::nullopt, false}};
+    for (const auto& [pedida, verificacao, temPagina] : casos) {
         CaixasRoteiro caixas;
         DialogosRoteiro dialogos;
         dialogos.nomes = {"impressora"};
         ImpressoraPaginas impressora;
         FrmRelatorio r;
         r.lstRelatorio = {" linha do relatório"};
-        r.lstIso = linhas;
+        r.iso = verificacao;
         r.txtCliente = "Usina Norte";
         DialogoImpressao().SegundaPaginaIso = pedida;
         mnuArquivoImprimir_Click(r);
@@ -127,7 +129,7 @@ TEST(Report, SegundaPaginaIso) {
         EXPECT_EQ(std::vector<std::string>(pagina + 1, s.end()),
                   (std::vector<std::string>{"", "ISO 5167-2:2003", "", "Abrindo", r.lblOS + r.txtOS,
                                             r.lblCliente + "Usina Norte", "", iso[0], iso[1],
-                                            "<fim>"}));
+                                            iso[2], "<fim>"}));
     }
     // "Configurar impressão" shows the same dialog, for the printer's setup.
     DialogosRoteiro dialogos;
