@@ -2,6 +2,7 @@
 // "Calcular" on each and prints the reports.
 #include "ajuda_portugues.h"
 #include "lote/lote.h"
+#include "report/linhas_iso.h"
 #include "base/mod_base.h"
 #include "sizing/catalogo.h"
 
@@ -46,7 +47,9 @@ nlohmann::json JsonIso(const tramelo::ResultadoIso& r) {
     j["perda_permanente_Pa"] = numero(r.perda_permanente_Pa);
     j["incerteza_C_pct"] = numero(r.incerteza_C_pct);
     j["incerteza_epsilo_pct"] = numero(r.incerteza_epsilo_pct);
+    j["d_mm_20C"] = numero(r.d_mm_20C);
     j["diferenca_d_pct"] = numero(r.diferenca_d_pct);
+    j["dentro_dos_limites"] = r.aplicavel ? nlohmann::json(r.dentro_dos_limites) : nlohmann::json(nullptr);
     j["limites"] = nlohmann::json::array();
     auto limite = [](const std::optional<double>& v) {
         return v ? nlohmann::json(*v) : nlohmann::json(nullptr);

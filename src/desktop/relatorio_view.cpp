@@ -2,6 +2,7 @@
 
 #include "report/agora.h"
 #include "report/frm_relatorio.h"
+#include "report/linhas_iso.h"
 
 #include <QCloseEvent>
 #include <QColor>

@@ -147,6 +147,8 @@ void Rodape(FrmCalcTramelo& f) {
 void SegundaOpiniao(FrmCalcTramelo& f, const Execucao& x, bool concluido) {
     FrmRelatorio& r = *f.Relatorio;
     r.iso = CalculaIso5167(EntradaIso5167(x, f.Fluido, f.Placa, f.Tomada, concluido));
+    r.Tag = f.txtTag.Text();
+    r.Arquivo = f.Caption;
 }
 
 void MostraRelatorio(FrmCalcTramelo& f) {

@@ -1,7 +1,7 @@
 #include "iso5167/iso5167.h"
 
+#include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <numbers>
 
 namespace tramelo {
@@ -43,26 +43,6 @@ bool DiametroOrificio(const EntradaIso& e, ResultadoIso& r) {
     return true;
 }
 
-// A number in a short text: six significant digits, decimal comma.
-std::string Texto(double v, const char* formato = "%.6g") {
-    char b[64];
-    std::snprintf(b, sizeof b, formato, v);
-    std::string s = b;
-    for (char& c : s)
-        if (c == '.') c = ',';
-    return s;
-}
-
-// Label filled with "_" to column 36, then the value, as the report's lines.
-std::string Linha(const std::string& rotulo, const std::string& valor) {
-    std::string l = " " + rotulo + " ";
-    size_t largura = 0;
-    for (unsigned char c : rotulo)
-        if ((c & 0xC0) != 0x80) ++largura;
-    if (largura < 33) l.append(33 - largura, '_');
-    return l + " " + valor;
-}
-
 } // namespace
 
 std::string MotivoIso5167(const EntradaIso& e) {
@@ -92,42 +72,18 @@ ResultadoIso CalculaIso5167(const EntradaIso& e) {
         return r;
     }
     r.aplicavel = true;
+    r.Fluido = e.Fluido;
     r.perda_permanente_Pa = iso::PerdaPermanente(r.beta, r.C, e.dp);
+    r.perda_permanente = r.perda_permanente_Pa / e.pa_por_unidade_dp;
+    r.unidade_perda = e.unidade_dp;
     r.incerteza_C_pct = iso::IncertezaC(r.beta, e.D_mm, r.ReD);
     r.incerteza_epsilo_pct = iso::IncertezaEpsilo(e.Fluido, e.dp, e.kappa, e.p1);
-    r.diferenca_d_pct = 100 * (e.d_legado_mm / r.d_mm - 1);
+    r.d_mm_20C = r.d_mm / std::sqrt(e.fator_area);
+    r.diferenca_d_pct = 100 * (e.d_legado_mm / r.d_mm_20C - 1);
     r.limites = iso::LimitesDeUso(e.Fluido, e.Tomada, r.d_mm, e.D_mm, r.beta, r.ReD, e.dp, e.p1);
+    r.dentro_dos_limites = std::all_of(r.limites.begin(), r.limites.end(),
+                                       [](const LimiteIso& m) { return m.ok; });
     return r;
-}
-
-std::vector<std::string> LinhasIso5167(const ResultadoIso& r) {
-    std::vector<std::string> l;
-    l.push_back(" ISO 5167-2:2003 - segunda opinião");
-    l.push_back("");
-    if (!r.aplicavel) {
-        l.push_back(" Não se aplica: " + r.motivo);
-        return l;
-    }
-    l.push_back(Linha("Beta = d/D", Texto(r.beta)));
-    l.push_back(Linha("Diâmetro do orifício", Texto(r.d_mm) + " mm"));
-    l.push_back(Linha("Coeficiente de descarga C", Texto(r.C)));
-    l.push_back(Linha("Epsilo", Texto(r.epsilo)));
-    l.push_back(Linha("N.º de reynolds (ReD)", Texto(r.ReD)));
-    l.push_back(Linha("Perda de carga permanente", Texto(r.perda_permanente_Pa, "%.1f") + " Pa"));
-    l.push_back(Linha("Incerteza de C", Texto(r.incerteza_C_pct, "%.3g") + " %"));
-    l.push_back(Linha("Incerteza de Epsilo", Texto(r.incerteza_epsilo_pct, "%.3g") + " %"));
-    l.push_back(Linha("Diferença em d (Tramelo/ISO)", Texto(r.diferenca_d_pct, "%+.3f") + " %"));
-    l.push_back("");
-    l.push_back(" Limites de uso (ISO 5167-2, 5.3.1):");
-    for (const LimiteIso& m : r.limites) {
-        std::string faixa;
-        if (m.minimo && m.maximo) faixa = Texto(*m.minimo) + " a " + Texto(*m.maximo);
-        else if (m.minimo) faixa = ">= " + Texto(*m.minimo);
-        else if (m.maximo) faixa = "<= " + Texto(*m.maximo);
-        l.push_back(Linha(m.nome, Texto(m.valor) + " (" + faixa + ") " +
-                                     (m.ok ? "dentro" : "FORA")));
-    }
-    return l;
 }
 
 } // namespace tramelo

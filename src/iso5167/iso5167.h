@@ -26,16 +26,28 @@ struct EntradaIso {
     double kappa = 0;       // isentropic exponent (gas and steam)
     double d_legado_mm = 0; // this program's bore, Beta · D
     double fator_area = 1;  // row 29: the bore's area at the flowing temperature over at 20 ºC
+    // The unit the user chose for the differential pressure, and the pascals
+    // in one of it, for the permanent loss in that unit.
+    std::string unidade_dp = "Pa";
+    double pa_por_unidade_dp = 1;
 };
 
 struct ResultadoIso {
     bool aplicavel = false;
     std::string motivo; // why not, in Portuguese; empty where it applies
     double beta = 0, d_mm = 0, C = 0, epsilo = 0, ReD = 0;
+    int Fluido = 0;
     double perda_permanente_Pa = 0;
+    double perda_permanente = 0;    // in unidade_perda, the differential pressure's unit
+    std::string unidade_perda = "Pa";
     double incerteza_C_pct = 0, incerteza_epsilo_pct = 0;
-    double diferenca_d_pct = 0; // 100 · (d_legado / d − 1)
+    // The standard's bore at 20 ºC, where this program gives its own: the
+    // bore at the flowing temperature over √(row 29), row 29 being the
+    // factor of the bore's area.
+    double d_mm_20C = 0;
+    double diferenca_d_pct = 0; // 100 · (d_legado / d_mm_20C − 1)
     std::vector<LimiteIso> limites;
+    bool dentro_dos_limites = false;
 };
 
 // Why ISO 5167-2 doesn't apply to this point (in Portuguese); empty where it
@@ -44,8 +56,5 @@ std::string MotivoIso5167(const EntradaIso& e);
 
 // The whole check; never throws.
 ResultadoIso CalculaIso5167(const EntradaIso& e);
-
-// The result as a short Portuguese section of text lines, decimal comma.
-std::vector<std::string> LinhasIso5167(const ResultadoIso& r);
 
 } // namespace tramelo

@@ -25,6 +25,9 @@ struct FrmRelatorio {
     // its text lines are made where they are shown (its own tab, the data
     // sheet's second page), not by every run. None before the first run.
     std::optional<ResultadoIso> iso;
+    // The calculation's Tag and file name as the run found them, for the
+    // check's printed page, which must be matched to its plate.
+    std::string Tag, Arquivo;
 
     // Header fields, and their labels (data: printing and export use them).
     std::string txtData = "Abrindo";

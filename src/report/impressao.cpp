@@ -3,6 +3,7 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/falha.h"
 #include "report/frm_relatorio.h"
+#include "report/linhas_iso.h"
 #include "base/mod_base.h"
 
 #include <new>
@@ -34,20 +35,24 @@ void Linha(std::vector<PecaLinha> pecas = {}) {
     Printer().ImprimeLinha(pecas);
 }
 
-// The ISO 5167-2:2003 check under its own title, with the header fields
-// that tell which sheet it belongs to.
+// The ISO 5167-2:2003 check under its own title, with the data sheet's
+// header and the calculation's Tag and file, so that a page that comes
+// apart from its sheet still tells which plate it speaks of.
 void SegundaPagina(const FrmRelatorio& r) {
     Printer().NovaPagina();
     Printer().DefineFonte("Arial Black", 20, true);
     Linha();
-    Linha({{ColunaTitulo, "ISO 5167-2:2003"}});
+    Linha({{ColunaTexto, TituloIso5167}});
     Linha();
     Printer().DefineFonte("Courier New", 10, false);
     Linha({{ColunaTexto, r.txtData}});
+    Linha();
     Linha({{ColunaTexto, r.lblOS}, {ColunaCampo, r.txtOS}});
     Linha({{ColunaTexto, r.lblCliente}, {ColunaCampo, r.txtCliente}});
+    Linha({{ColunaTexto, " Tag..............:"}, {ColunaCampo, r.Tag}});
+    Linha({{ColunaTexto, " Arquivo..........:"}, {ColunaCampo, r.Arquivo}});
     Linha();
-    for (const std::string& l : LinhasIso5167(*r.iso))
+    for (const std::string& l : CorpoIso5167(*r.iso))
         Linha({{ColunaTexto, l}});
 }
 

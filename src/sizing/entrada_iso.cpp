@@ -1,5 +1,6 @@
 #include "sizing/entrada_iso.h"
 
+#include "sizing/catalogo.h"
 #include "sizing/execucao.h"
 
 namespace tramelo {
@@ -24,6 +25,11 @@ EntradaIso EntradaIso5167(const Execucao& x, int Fluido, int Placa, int Tomada, 
     e.d_legado_mm = x.Beta.valor() * e.D_mm;
     // Row 29 as the run read it: the factor of the bore's area.
     e.fator_area = d[29].Numero().valor();
+    // The exact inverse of the conversion that brought row 5 to pascals.
+    const Catalogo& c = catalogo();
+    const size_t escala = static_cast<size_t>(x.EscalaPerda + 5);
+    if (escala < c.NomeEscalas.size()) e.unidade_dp = c.NomeEscalas[escala];
+    e.pa_por_unidade_dp = x.EscalaPerda == 2 ? 9.79763 : x.EscalaPerda == 1 ? 98.0665 / 10 : 1;
     return e;
 }
 

@@ -9,11 +9,13 @@
 #include "report/exportar.h"
 #include "report/frm_relatorio.h"
 #include "report/impressao.h"
+#include "report/linhas_iso.h"
 #include "base/mod_base.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 
 namespace tramelo::teste {
@@ -101,8 +103,7 @@ TEST(Report, SegundaPaginaIso) {
     };
     ResultadoIso naoConcluido;
     naoConcluido.motivo = "O cálculo não foi concluído.";
-    const std::vector<std::string> iso = {" ISO 5167-2:2003 - segunda opinião", "",
-                                          " Não se aplica: O cálculo não foi concluído."};
+    const std::string naoSeAplica = " Não se aplica: O cálculo não foi concluído.";
     // Asked for, the run's check, a second page; the last is a report from before any run.
     const std::tuple<bool, std::optional<ResultadoIso>, bool> casos[] = {
         {true, naoConcluido, true}, {false, naoConcluido, false}, {true, std::nullopt, false}};
@@ -114,6 +115,8 @@ TEST(Report, SegundaPaginaIso) {
         FrmRelatorio r;
         r.lstRelatorio = {" linha do relatório"};
         r.iso = verificacao;
+        r.Tag = "FT-2301";
+        r.Arquivo = "agua.trl";
         r.txtCliente = "Usina Norte";
         DialogoImpressao().SegundaPaginaIso = pedida;
         mnuArquivoImprimir_Click(r);
@@ -124,17 +127,91 @@ TEST(Report, SegundaPaginaIso) {
         EXPECT_EQ(s.back(), "<fim>");
         EXPECT_EQ(impressora.fontes.at(1), "Courier New 10"); // the body isn't bold
         if (!temPagina) continue;
-        // After the report's last line: the title, the header fields, the lines.
+        // After the report's last line: the title once, the sheet's header
+        // with the Tag and the file that tell its plate, the check.
         EXPECT_EQ(*(pagina - 1), " linha do relatório");
         EXPECT_EQ(std::vector<std::string>(pagina + 1, s.end()),
-                  (std::vector<std::string>{"", "ISO 5167-2:2003", "", "Abrindo", r.lblOS + r.txtOS,
-                                            r.lblCliente + "Usina Norte", "", iso[0], iso[1],
-                                            iso[2], "<fim>"}));
+                  (std::vector<std::string>{"", "ISO 5167-2:2003 - segunda opinião", "", "Abrindo", "",
+                                            r.lblOS + r.txtOS, r.lblCliente + "Usina Norte",
+                                            " Tag..............:FT-2301",
+                                            " Arquivo..........:agua.trl", "", naoSeAplica,
+                                            "<fim>"}));
     }
     // "Configurar impressão" shows the same dialog, for the printer's setup.
     DialogosRoteiro dialogos;
     mnuArquivoConfigurarImpressao_Click();
     EXPECT_TRUE(dialogos.mostrados.at(0).Flags & cdlPDPrintSetup);
+}
+
+} // namespace
+} // namespace tramelo::teste
+
+namespace tramelo::teste {
+namespace {
+
+// The check as a reader wants it: the verdict first, the uncertainties only
+// where the standard gives them, the loss in the user's unit, numbers in
+// the program's text, the bores compared at 20 ºC.
+TEST(ReportIso, LinhasComoUmEngenheiroLe) {
+    // A gas point with β and ReD out, its loss in mmCA and the plate at 120 ºC
+    // (stainless: row 29 = 1 + 34e-6 · 100).
+    ResultadoIso fora;
+    fora.aplicavel = true;
+    fora.Fluido = 1;
+    fora.beta = 0.836267898;
+    fora.d_mm = 33.450715;
+    fora.d_mm_20C = 33.450715 / std::sqrt(1.0034);
+    fora.diferenca_d_pct = -4.87254;
+    fora.C = 0.577811232;
+    fora.epsilo = 0.84286839;
+    fora.ReD = 10210.95;
+    fora.perda_permanente = 1234.5678;
+    fora.unidade_perda = "mmCA";
+    fora.incerteza_C_pct = 0.9;
+    fora.incerteza_epsilo_pct = 0.00006565;
+    fora.limites = {{"beta", 0.836267898, 0.1, 0.75, false}, {"ReD", 10210.95, 11188.3, {}, false},
+                    {"p2/p1", 0.8, 0.75, {}, true}};
+    const std::vector<std::string> l = LinhasIso5167(fora);
+    const std::vector<std::string> esperadas = {
+        " ISO 5167-2:2003 - segunda opinião",
+        "",
+        " Fora dos limites de uso: β, ReD",
+        "",
+        " Beta = d/D _______________________ 0,83627",
+        " Diâmetro do orifício _____________ 33,451 mm",
+        " Diâmetro do orifício a 20 ºC _____ 33,394 mm", // 33,450715 / √1,0034 = 33,39396
+        " Diferença em d (Tramelo/ISO) _____ -4,873 %",
+        " (os dois diâmetros a 20 ºC: o da ISO dividido pela raiz do fator do material)",
+        " Coeficiente de descarga C ________ 0,577811",
+        " Epsilo ___________________________ 0,842868",
+        " ReD na vazão de projeto __________ 10211",
+        " Perda de carga permanente ________ 1200 mmCA",
+        " Incerteza de C ___________________ fora da norma",
+        " Incerteza de Epsilo ______________ fora da norma",
+        "",
+        " Limites de uso (ISO 5167-2, 5.3.1):",
+        " beta _____________________________ 0,836268 (0,1 a 0,75) FORA",
+        " ReD ______________________________ 10211 (>= 11188,3) FORA",
+        " p2/p1 ____________________________ 0,8 (>= 0,75) dentro",
+    };
+    EXPECT_EQ(l, esperadas);
+
+    // Inside the limits: the uncertainties; a tiny one in the program's own
+    // exponent form, never "6,56491e-05"; a liquid has no ε to speak of.
+    fora.limites = {{"beta", 0.6, 0.1, 0.75, true}};
+    fora.dentro_dos_limites = true;
+    const std::vector<std::string> gas = CorpoIso5167(fora);
+    EXPECT_EQ(gas.front(), " Dentro dos limites de uso");
+    EXPECT_EQ(gas.at(11), " Incerteza de C ___________________ 0,9 %");
+    EXPECT_EQ(gas.at(12), " Incerteza de Epsilo ______________ 6,6E-05 %");
+    fora.Fluido = 0;
+    const std::vector<std::string> liquido = CorpoIso5167(fora);
+    EXPECT_EQ(liquido.at(8), " Epsilo ___________________________ não se aplica");
+    EXPECT_EQ(liquido.at(12), " Incerteza de Epsilo ______________ não se aplica");
+    ResultadoIso vena;
+    vena.motivo = "A ISO 5167-2 não prevê tomadas de vena contracta.";
+    EXPECT_EQ(CorpoIso5167(vena),
+              std::vector<std::string>{" Não se aplica: A ISO 5167-2 não prevê tomadas de vena contracta."});
 }
 
 } // namespace
