@@ -15,32 +15,48 @@ constexpr double ToleranciaD = 1e-12;
 constexpr int MaximoPassesD = 200;
 
 // qm = C/√(1−β⁴) · ε · π/4 · d² · √(2 Δp ρ1), written as
-// Cεβ²/√(1−β⁴) = A2 and solved by fixed point on β, the iteration of
-// ISO 5167-1:2003, Annex A.
+// Cεβ²/√(1−β⁴) = A2 and solved for β by the secant ("linear") algorithm of
+// ISO 5167-1:2003, Annex A, on δ(β) = A2 − Cεβ²/√(1−β⁴). Its first two
+// points are the closed form with C = 0,6 and ε = 1, and the same with the C
+// and ε of that first β.
 // Returns false when it doesn't settle.
 bool DiametroOrificio(const EntradaIso& e, ResultadoIso& r) {
     const double D = e.D_mm / 1000;
     const double A2 = (4 * e.qm) / (std::numbers::pi * D * D * std::sqrt(2 * e.dp * e.rho1));
-    double C = 0.6, eps = 1, d = 0;
-    for (int passo = 0; passo < MaximoPassesD; ++passo) {
-        const double X = A2 / (C * eps);
-        const double b = std::pow((X * X) / (1 + X * X), 0.25);
-        const double dNovo = b * e.D_mm;
-        if (!Positivo(dNovo) || !(b < 1)) return false;
+    double C = 0, eps = 0;
+    // δ at β, with the C and ε it takes; false where they aren't physical.
+    auto Delta = [&](double b, double& delta) {
         C = iso::CoeficienteDescarga(b, r.ReD, e.D_mm, e.Tomada);
         eps = iso::Expansibilidade(e.Fluido, b, e.dp, e.p1, e.kappa);
         if (!Positivo(C) || !Positivo(eps)) return false;
-        const bool parou = passo > 0 && std::abs(dNovo - d) / dNovo < ToleranciaD;
-        d = dNovo;
-        r.beta = b;
-        if (parou) break;
-        if (passo + 1 == MaximoPassesD) return false;
+        const double b2 = b * b;
+        delta = A2 - (C * eps * b2) / std::sqrt(1 - b2 * b2);
+        return std::isfinite(delta);
+    };
+    auto BetaFechado = [&](double Ce) {
+        const double X = A2 / Ce;
+        return std::pow((X * X) / (1 + X * X), 0.25);
+    };
+    double b0 = BetaFechado(0.6), d0 = 0;
+    if (!(b0 > 0 && b0 < 1) || !Delta(b0, d0)) return false;
+    double b1 = BetaFechado(C * eps), d1 = 0;
+    for (int passo = 0; passo < MaximoPassesD; ++passo) {
+        if (!(b1 > 0 && b1 < 1) || !Delta(b1, d1)) return false;
+        if (std::abs(b1 - b0) / b1 < ToleranciaD || d1 == 0) {
+            // C and ε of the final β, so that the three agree.
+            r.beta = b1;
+            r.d_mm = b1 * e.D_mm;
+            r.C = C;
+            r.epsilo = eps;
+            return Positivo(r.d_mm);
+        }
+        if (d1 == d0) return false;
+        const double b2 = b1 - d1 * (b1 - b0) / (d1 - d0);
+        b0 = b1;
+        d0 = d1;
+        b1 = b2;
     }
-    // C and ε of the final β, so that the three agree.
-    r.d_mm = d;
-    r.C = C;
-    r.epsilo = eps;
-    return true;
+    return false;
 }
 
 } // namespace

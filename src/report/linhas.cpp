@@ -51,8 +51,7 @@ void LinhaRelatorio(FrmRelatorio& r, std::string_view rotulo, std::string_view v
 
 void LinhaRelatorio(FrmRelatorio& r, std::string_view rotulo, double valor,
                     std::string_view unidade) {
-    std::string texto;
-    texto.reserve(32);
+    std::string texto; // most numbers fit in the string itself, no allocation
     AcrescentaNumero(texto, valor);
     LinhaRelatorio(r, rotulo, std::string_view(texto), unidade);
 }
