@@ -2,7 +2,6 @@
 
 #include "plataforma/falha.h"
 
-#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -31,7 +30,10 @@ int Len(std::string_view s) {
     for (; i + 8 <= s.size(); i += 8) {
         std::uint64_t w;
         std::memcpy(&w, s.data() + i, 8);
-        continuacoes += static_cast<size_t>(std::popcount(w & ~(w << 1) & 0x8080808080808080ULL));
+        // One bit a byte at bit 7; summed by the multiply into the top byte
+        // (the default x86-64 target has no population-count instruction).
+        const std::uint64_t m = (w & ~(w << 1) & 0x8080808080808080ULL) >> 7;
+        continuacoes += static_cast<size_t>((m * 0x0101010101010101ULL) >> 56);
     }
     for (; i < s.size(); ++i)
         if (Continuacao(static_cast<unsigned char>(s[i]))) ++continuacoes;
