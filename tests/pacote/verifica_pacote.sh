@@ -54,14 +54,14 @@ diff -u "$tmp/esperados" "$tmp/arquivos" || falha "arquivos do pacote"
 dpkg-deb -c "$deb" | awk '{print $2}' | grep -qv '^root/root$' && falha "arquivo que não é de root"
 
 # Control fields: name, version of the project, and the libraries found by
-# dpkg-shlibdeps next to the Qt platform plugins.
+# dpkg-shlibdeps next to the Qt platform plugins and Qt's own translations.
 campo() { dpkg-deb -f "$deb" "$1"; }
 [ "$(campo Package)" = tramelo ] || falha "Package: $(campo Package)"
 [ "$(campo Version)" = "$(sed -n 's/^CPACK_PACKAGE_VERSION:STRING=//p;s/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt" | head -1)" ] ||
   falha "Version: $(campo Version)"
 [ "$(campo Architecture)" = "$(dpkg --print-architecture)" ] || falha "Architecture: $(campo Architecture)"
 [ "$(campo Section)" = science ] || falha "Section: $(campo Section)"
-for dep in libc6 libstdc++6 libqt6core6 libqt6widgets6 libqt6printsupport6 libqt6network6 qt6-qpa-plugins; do
+for dep in libc6 libstdc++6 libqt6core6 libqt6widgets6 libqt6printsupport6 libqt6network6 qt6-qpa-plugins qt6-translations-l10n; do
   campo Depends | tr ',' '\n' | grep -q "^ *$dep\b" || falha "Depends sem $dep: $(campo Depends)"
 done
 campo Description | sed -n 2p | grep -q 'placa de orifício' || falha "descrição longa"
