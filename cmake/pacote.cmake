@@ -1,7 +1,8 @@
 # The Debian package: `cpack -G DEB` in the build folder gives
 # tramelo_<version>_<arch>.deb, installed under /usr with the layout of the
 # install rules. The libraries it needs come from dpkg-shlibdeps; what the
-# linker can't see (Qt's platform plugins) is named here.
+# linker can't see (Qt's platform plugins, and the translations that put Qt's
+# own dialogs and buttons in Portuguese) is named here.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tramelo)
 set(CPACK_PACKAGE_VENDOR Quillon)
@@ -25,7 +26,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 if(TRAMELO_DESKTOP)
-  set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+  set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, qt6-translations-l10n")
   set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
 endif()
 include(CPack)

@@ -3,7 +3,7 @@
 set -euo pipefail
 pacotes=(build-essential cmake g++ pkg-config libgtest-dev googletest libgmock-dev
          libbenchmark-dev nlohmann-json3-dev libcli11-dev libfmt-dev
-         qt6-base-dev libgl-dev xvfb xauth fonts-liberation poppler-utils
+         qt6-base-dev qt6-translations-l10n libgl-dev xvfb xauth fonts-liberation poppler-utils
          dpkg-dev fakeroot file lintian appstream desktop-file-utils man-db debootstrap
          clang-14 libclang-rt-14-dev
          openbox xdotool xclip x11-utils imagemagick dbus at-spi2-core python3-pyatspi

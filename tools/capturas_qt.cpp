@@ -194,5 +194,16 @@ int main(int argc, char** argv) {
                            QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"),
                            QStringLiteral("2"), pdf, png}) == 0)
         std::printf("%s-1.png\n%s-2.png\n", qPrintable(png), qPrintable(png));
+
+    // Qt's own dialogs as the program shows them, each cancelled once pictured.
+    DialogosQt dialogosQt(&programa.janela());
+    ambiente().dialogos = &dialogosQt;
+    CapturaModal("12-abrir");
+    mnuArquivoOpen_Click();
+    CapturaModal("13-configurar-impressao");
+    mnuArquivoConfigurarImpressao_Click();
+    CapturaModal("14-imprimir");
+    programa.ImprimeRelatorio(r);
+    ambiente().dialogos = &dialogos;
     return 0;
 }

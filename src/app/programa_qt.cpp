@@ -28,17 +28,41 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTranslator>
 
 namespace tramelo {
 
+namespace {
+
+// Qt's own words (the file, print and page set-up dialogs, an edit field's
+// menu, a window's system menu, a standard button) in Portuguese (Brazil),
+// from the translations the system ships with Qt, whatever the user's
+// language; the program's own texts pass through none of it. Once per
+// application, so a test or a tool that builds the program twice loads it
+// once. Without the translations installed Qt speaks English, and the program
+// runs on.
+void CarregaTraducoesDoQt() {
+    const QString nome = QStringLiteral("traducoesDoQt");
+    if (!qApp || qApp->findChild<QTranslator*>(nome, Qt::FindDirectChildrenOnly)) return;
+    auto* traducoes = new QTranslator(qApp);
+    traducoes->setObjectName(nome);
+    if (traducoes->load(QLocale(QLocale::Portuguese, QLocale::Brazil), QStringLiteral("qtbase"),
+                        QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(traducoes);
+}
+
+} // namespace
+
 ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    CarregaTraducoesDoQt();
     if (QApplication::windowIcon().isNull())
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/tramelo/tramelo.png")));
     sistema_ = std::make_unique<SistemaQt>();

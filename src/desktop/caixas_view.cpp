@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace tramelo {
@@ -30,10 +31,22 @@ QWidget* Dono(QWidget* dono) {
     return nullptr;
 }
 
-} // namespace
+// A box takes the keyboard once it is up, whatever showed it. A window
+// manager need not hand the focus to a new window: under openbox a box shown
+// from a menu's entry was left without it, and Enter and Escape went to the
+// window below. So the box asks for the activation itself, from its own event
+// loop, once it is shown (the desktop holds the request until the window is
+// mapped), and puts the keys on the widget Enter belongs to.
+void TomaOTeclado(QDialog& caixa, QWidget* foco) {
+    QTimer::singleShot(0, &caixa, [&caixa, foco] {
+        caixa.raise();
+        caixa.activateWindow();
+        if (foco) foco->setFocus(Qt::ActiveWindowFocusReason);
+    });
+}
 
-namespace {
 int caixasMostradas = 0;
+
 } // namespace
 
 int CaixasQt::Mostradas() {
@@ -96,6 +109,7 @@ int CaixasQt::MsgBox(const std::string& texto, int estilo, const std::string& ti
     // closes: not every window manager hands it back by itself, and a
     // calculator or a field left without the keys is lost to the keyboard.
     QPointer<QWidget> antes = QApplication::activeWindow();
+    TomaOTeclado(caixa, caixa.defaultButton());
     caixa.exec();
     if (antes && antes->isVisible()) antes->activateWindow();
     QAbstractButton* clicado = caixa.clickedButton();
@@ -125,6 +139,7 @@ std::string CaixasQt::InputBox(const std::string& prompt, const std::string& tit
     layout->addWidget(campo);
     layout->addWidget(botoes);
     campo->setFocus();
+    TomaOTeclado(dialogo, campo);
     if (dialogo.exec() != QDialog::Accepted) return {};
     return campo->text().toStdString();
 }

@@ -10,15 +10,19 @@
 #include "report/frm_relatorio.h"
 #include "report/janela_relatorio.h"
 #include "base/barras.h"
+#include "base/instalacao.h"
 #include "plataforma/numero.h"
 #include "base/mod_base.h"
 #include "base/pedidos.h"
 #include "base/recentes.h"
+#include "shell/entrada.h"
 #include "shell/registro.h"
 #include "document/calculo.h"
 #include "plataforma/notificador.h"
 
 #include <cmath>
+#include <string_view>
+#include <filesystem>
 
 namespace tramelo {
 namespace {
@@ -55,6 +59,42 @@ void AlternaBanda(int b, int o, ItemMenu MdiMenu::*item, ItemMenu FrmCalcTramelo
     (m.*item).Checked = m.cobBarra.Bands(b).Visible;
     MarcaNoFilho(noCalculo, noRelatorio, (m.*item).Checked);
     AjustaBarra();
+}
+
+// A file as a file: address, the one form that carries a section to the
+// desktop's browser; every byte of the path but the plain ones is escaped, so
+// a blank or a "#" in a folder's name stays part of the path.
+std::string EnderecoDeArquivo(const std::string& caminho, const std::string& secao) {
+    static const char hex[] = "0123456789ABCDEF";
+    std::string r = "file://";
+    std::error_code ec;
+    for (unsigned char c : std::filesystem::absolute(caminho, ec).lexically_normal().string()) {
+        const bool simples = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
+                             (c >= '0' && c <= '9') || std::string_view("/-._~").find(c) != std::string_view::npos;
+        if (simples) {
+            r += static_cast<char>(c);
+        } else {
+            r += '%';
+            r += hex[c >> 4];
+            r += hex[c & 15];
+        }
+    }
+    return secao.empty() ? r : r + "#" + secao;
+}
+
+// The manual, installed with the program or beside a build's executable, in
+// the desktop's browser; a program without it keeps the box it always had.
+// A browser that fails to start is the desktop's business, as a help viewer's
+// failure was the platform's.
+void MostraAjuda(const std::string& secao) {
+    const std::string pagina = ArquivoDoPrograma(PastaExecutavel(), ArquivoManual);
+    if (ExisteArquivo(pagina)) {
+        AbreNoSistema(EnderecoDeArquivo(pagina, secao));
+        return;
+    }
+    MsgBox("Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de Ajuda "
+           "associado à este projeto.",
+           vbInformation, mdiMenu().Caption);
 }
 
 } // namespace
@@ -144,14 +184,12 @@ void mnuExibirRelatorio_Click() {
 }
 
 void mnuAjudaConteudo_Click() {
-    // The program is built with no help file.
-    MsgBox("Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de Ajuda "
-           "associado à este projeto.",
-           vbInformation, mdiMenu().Caption);
+    MostraAjuda("");
 }
 
-// The platform's own help viewer doesn't exist here: the same box tells so.
-void mnuAjudaComoUsar_Click() { mnuAjudaConteudo_Click(); }
+// The platform's help on help has no counterpart here: the manual opens at
+// its own section on how to read it.
+void mnuAjudaComoUsar_Click() { MostraAjuda("como-usar"); }
 
 void CarregaMRU() {
     for (int i = 1; i <= 4; ++i)

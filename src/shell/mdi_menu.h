@@ -21,6 +21,12 @@ void mnuExibirBarraCalculo_Click();
 void mnuExibirEtiqueta_Click();
 void mnuExibirStatusBar_Click();
 void mnuExibirRelatorio_Click();
+// The user manual, beside the tips: installed in the program's data folder,
+// or copied beside a build's executable.
+inline constexpr const char* ArquivoManual = "manual/index.html";
+
+// The manual in the desktop's browser, at its first page or at its section on
+// reading it; without the manual, the box that says there is no help file.
 void mnuAjudaConteudo_Click();
 void mnuAjudaComoUsar_Click();
 void AjustaBarra();

@@ -270,6 +270,39 @@ TEST_F(ShellInicio, DicaDoDia) {
     EXPECT_EQ(LeConfig("Config", "DicasIniciar"), "1");
 }
 
+// The manual in the desktop's browser, beside a build's executable or in an
+// installed data folder; without it, the box there always was.
+TEST_F(ShellInicio, AjudaAbreOManualOuDizQueNaoHa) {
+    mdiMenu().Caption = "Tramelo";
+    mnuAjudaConteudo_Click();
+    mnuAjudaComoUsar_Click();
+    ASSERT_EQ(caixas.mostradas.size(), 2u);
+    for (const CaixaMostrada& c : caixas.mostradas)
+        EXPECT_TRUE(c.titulo == "Tramelo" && c.estilo == vbInformation &&
+                    c.texto == "Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo "
+                               "de Ajuda associado à este projeto.");
+    EXPECT_TRUE(sistema.abertos.empty());
+
+    caixas.mostradas.clear();
+    const std::string programa = pasta / "meu programa #2";
+    std::filesystem::create_directories(programa + "/manual");
+    GravaBytes(programa + "/manual/index.html", "<html></html>");
+    PastaExecutavel() = programa;
+    mnuAjudaConteudo_Click();
+    mnuAjudaComoUsar_Click();
+    std::filesystem::create_directories(pasta / "usr/bin");
+    std::filesystem::create_directories(pasta / "usr/share/tramelo/manual");
+    GravaBytes(pasta / "usr/share/tramelo/manual/index.html", "<html></html>");
+    PastaExecutavel() = pasta / "usr/bin";
+    mnuAjudaConteudo_Click();
+    const std::string raiz = "file://" + pasta.str();
+    EXPECT_EQ(sistema.abertos, (std::vector<std::string>{
+                                   raiz + "/meu%20programa%20%232/manual/index.html",
+                                   raiz + "/meu%20programa%20%232/manual/index.html#como-usar",
+                                   raiz + "/usr/share/tramelo/manual/index.html"}));
+    EXPECT_TRUE(caixas.mostradas.empty());
+}
+
 TEST(ShellSobre, DicaESublinhadoDosLinks) {
     FrmAbertura splash; // its clock starts with it
     FrmAbertura_Load(splash);

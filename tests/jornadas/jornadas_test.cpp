@@ -93,6 +93,19 @@ class Jornada : public ::testing::Test {
         x.Clica(bx, by);
     }
 
+    // xdg-open as the desktop's handler, writing down what it was given, a
+    // line a call, in the file it returns.
+    std::string XdgOpenQueAnota() {
+        const std::string registro = x.Caminho("xdg-open.txt");
+        {
+            std::ofstream s(x.Caminho("bin/xdg-open"));
+            s << "#!/bin/sh\necho \"$@\" >> '" << registro << "'\n";
+        }
+        fs::permissions(x.Caminho("bin/xdg-open"), fs::perms::owner_all);
+        setenv("PATH", (x.Caminho("bin") + ":" + std::getenv("PATH")).c_str(), 1);
+        return registro;
+    }
+
     SessaoX x;
 };
 
@@ -299,14 +312,7 @@ TEST_F(Jornada, SalvarComoEReabrirPelosRecentes) {
 // The windows of the help menu and the options open and close as a person
 // closes them; the about box's address goes to the desktop's mail handler.
 TEST_F(Jornada, TabelasDicasOpcoesESobre) {
-    // xdg-open as the desktop's handler, writing down what it was given.
-    const std::string registro = x.Caminho("xdg-open.txt");
-    {
-        std::ofstream s(x.Caminho("bin/xdg-open"));
-        s << "#!/bin/sh\necho \"$@\" >> '" << registro << "'\n";
-    }
-    fs::permissions(x.Caminho("bin/xdg-open"), fs::perms::owner_all);
-    setenv("PATH", (x.Caminho("bin") + ":" + std::getenv("PATH")).c_str(), 1);
+    const std::string registro = XdgOpenQueAnota();
     ASSERT_TRUE(x.Inicia());
     Botao("OK"); // the tip of the day, at a start with no file
     for (const std::string tabela : {"&Massa do Vapor Superaquecido", "&Volume do Vapor Superaquecido"}) {
@@ -341,6 +347,60 @@ TEST_F(Jornada, TabelasDicasOpcoesESobre) {
     x.Tecla("Escape");
 }
 
+// The help menu without the manual: its box takes the keys, whether opened
+// by the menu's keys, a click or F1, and Enter or Escape close it. With the manual beside the
+// program, F1 and "Como utilizar a ajuda..." hand its first page to the
+// desktop's browser, the second at its section on reading it.
+TEST_F(Jornada, AjudaCaixaSemManualEManualNoNavegador) {
+    const std::string registro = XdgOpenQueAnota();
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    const std::string semAjuda = "Não foi possivel exibir o arquivo da ajuda. Não há nenhum arquivo de "
+                                 "Ajuda associado à este projeto.";
+    auto FechaCom = [&](const std::string& tecla) {
+        ASSERT_TRUE(x.Espera("label", semAjuda, 5000));
+        x.Tecla(tecla);
+        ASSERT_TRUE(x.EsperaSumir("label", semAjuda, 5000)) << tecla << " went elsewhere";
+    };
+    Menu({"Aj&uda", "&Conteúdo e índice..."});
+    ASSERT_NO_FATAL_FAILURE(FechaCom("Return"));
+    Menu({"Aj&uda", "Como utilizar a ajuda..."}); // clicked: no letter of its own here
+    ASSERT_NO_FATAL_FAILURE(FechaCom("Escape"));
+    x.Tecla("F1");
+    ASSERT_NO_FATAL_FAILURE(FechaCom("Return"));
+    ASSERT_TRUE(x.Acha("frame", "agua.trl"));
+
+    fs::copy(TRAMELO_MANUAL, x.Caminho("bin/manual"), fs::copy_options::recursive);
+    x.Tecla("F1");
+    Menu({"Aj&uda", "Como utilizar a ajuda..."});
+    std::vector<std::string> pedidos;
+    for (int i = 0; i < 50 && pedidos.size() < 2; ++i, x.Pausa(100)) {
+        pedidos.clear();
+        std::ifstream r(registro);
+        for (std::string l; std::getline(r, l);) pedidos.push_back(l);
+    }
+    const std::string pagina = "file://" + x.Caminho("bin/manual/index.html");
+    EXPECT_EQ(pedidos, (std::vector<std::string>{pagina, pagina + "#como-usar"}));
+    EXPECT_FALSE(x.Acha("label", semAjuda));
+}
+
+// Qt's own dialogs speak Portuguese: the open dialog and the page set-up
+// (the print dialog in the journey that prints).
+TEST_F(Jornada, DialogosDoQtEmPortugues) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    Menu({"&Arquivo", "&Abrir"});
+    ASSERT_TRUE(x.Espera("dialog", "Abrir Tramelo", 5000));
+    for (const char* rotulo : {"Procurar em:", "Nome do arquivo:", "Arquivos do tipo:"})
+        EXPECT_TRUE(x.Espera("label", rotulo, 3000)) << rotulo;
+    x.Tecla("Escape");
+    ASSERT_TRUE(x.EsperaSumir("dialog", "Abrir Tramelo", 5000));
+    Menu({"&Arquivo", "Configurar impressão..."});
+    ASSERT_TRUE(x.Espera("dialog", "Configurar impressão", 5000));
+    for (const char* grupo : {"Papel", "Orientação", "Margens"})
+        EXPECT_TRUE(x.Espera("panel", grupo, 3000)) << grupo;
+    x.Tecla("Escape");
+    EXPECT_TRUE(x.EsperaSumir("dialog", "Configurar impressão", 5000));
+}
+
 // The report printed to a PDF and exported to a text file: both written,
 // with the report's lines.
 TEST_F(Jornada, ImprimeEmPdfEExporta) {
@@ -355,8 +415,10 @@ TEST_F(Jornada, ImprimeEmPdfEExporta) {
 
     const std::string pdf = x.Caminho("arquivos/folha.pdf");
     Botao("Imprimir");
-    auto saida = x.Espera("text", "Output file:", 8000);
+    // Qt's print dialog in Portuguese, as the program around it.
+    auto saida = x.Espera("text", "Arquivo de saída:", 8000);
     ASSERT_TRUE(saida);
+    EXPECT_TRUE(x.Acha("push button", "Opções >>") && x.Acha("push button", "Propriedades"));
     x.Clica(saida->cx(), saida->cy());
     x.Tecla("ctrl+a");
     x.Digita(pdf);

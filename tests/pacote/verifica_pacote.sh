@@ -38,19 +38,30 @@ usr/share/man/man1/tramelo-calc.1.gz
 usr/share/metainfo/br.com.quillon.Tramelo.metainfo.xml
 usr/share/mime/packages/tramelo.xml
 usr/share/tramelo/DicaDoDia.txt
+usr/share/tramelo/manual/arquivo.html
+usr/share/tramelo/manual/atalhos.html
+usr/share/tramelo/manual/campos.html
+usr/share/tramelo/manual/estilo.css
+usr/share/tramelo/manual/ferramentas.html
+usr/share/tramelo/manual/index.html
+usr/share/tramelo/manual/iso5167.html
+usr/share/tramelo/manual/linha-de-comando.html
+usr/share/tramelo/manual/metodo.html
+usr/share/tramelo/manual/primeiros-passos.html
+usr/share/tramelo/manual/relatorio.html
 LISTA
 diff -u "$tmp/esperados" "$tmp/arquivos" || falha "arquivos do pacote"
 dpkg-deb -c "$deb" | awk '{print $2}' | grep -qv '^root/root$' && falha "arquivo que não é de root"
 
 # Control fields: name, version of the project, and the libraries found by
-# dpkg-shlibdeps next to the Qt platform plugins.
+# dpkg-shlibdeps next to the Qt platform plugins and Qt's own translations.
 campo() { dpkg-deb -f "$deb" "$1"; }
 [ "$(campo Package)" = tramelo ] || falha "Package: $(campo Package)"
 [ "$(campo Version)" = "$(sed -n 's/^CPACK_PACKAGE_VERSION:STRING=//p;s/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt" | head -1)" ] ||
   falha "Version: $(campo Version)"
 [ "$(campo Architecture)" = "$(dpkg --print-architecture)" ] || falha "Architecture: $(campo Architecture)"
 [ "$(campo Section)" = science ] || falha "Section: $(campo Section)"
-for dep in libc6 libstdc++6 libqt6core6 libqt6widgets6 libqt6printsupport6 libqt6network6 qt6-qpa-plugins; do
+for dep in libc6 libstdc++6 libqt6core6 libqt6widgets6 libqt6printsupport6 libqt6network6 qt6-qpa-plugins qt6-translations-l10n; do
   campo Depends | tr ',' '\n' | grep -q "^ *$dep\b" || falha "Depends sem $dep: $(campo Depends)"
 done
 campo Description | sed -n 2p | grep -q 'placa de orifício' || falha "descrição longa"
@@ -70,6 +81,8 @@ desktop-file-validate "$tmp/raiz/usr/share/applications/br.com.quillon.Tramelo.d
 grep -q '^MimeType=application/x-tramelo;$' "$tmp/raiz/usr/share/applications/br.com.quillon.Tramelo.desktop" ||
   falha "MimeType da entrada"
 grep -q 'glob pattern="\*.trl"' "$tmp/raiz/usr/share/mime/packages/tramelo.xml" || falha "tipo .trl"
+# "Como utilizar a ajuda..." opens the manual's first page at this section.
+grep -q 'id="como-usar"' "$tmp/raiz/usr/share/tramelo/manual/index.html" || falha "manual sem a seção como-usar"
 for lado in 16 22 24 32 48 64 128 256; do
   file "$tmp/raiz/usr/share/icons/hicolor/${lado}x$lado/apps/tramelo.png" | grep -q "PNG image data, $lado x $lado" ||
     falha "ícone de $lado"

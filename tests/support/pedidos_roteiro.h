@@ -20,13 +20,18 @@ struct PedidosRoteiro : PedidosDesktop {
     void Sai() override { pedidos += "sai"; }
 };
 
-// A platform that runs no program but writes down each it was asked to run.
+// A platform that runs and opens nothing but writes down each program it was
+// asked to run and each file or address it was asked to open.
 struct SistemaRoteiroExecuta : Sistema {
     std::vector<std::vector<std::string>> executados;
+    std::vector<std::string> abertos;
     bool executa = true; // false: leaves the run to the caller, as a bare platform
     void DoEvents() override {}
     void MousePointer(int) override {}
-    bool Abre(const std::string&) override { return false; }
+    bool Abre(const std::string& caminho) override {
+        abertos.push_back(caminho);
+        return false;
+    }
     bool Executa(const std::string& p, const std::vector<std::string>& a) override {
         if (!executa) return false;
         executados.push_back({p});
