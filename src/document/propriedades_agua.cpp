@@ -122,9 +122,8 @@ PropriedadesAgua PropriedadesNoPonto(const PontoAgua& p) {
 }
 
 std::vector<LinhaPropriedade> LinhasPropriedades(const PropriedadesAgua& r) {
-    if (!r.erro.empty()) return {};
     const std::string especifico = "kJ/(Kg.K)";
-    return {
+    std::vector<LinhaPropriedade> linhas{
         {"Região da IAPWS-IF97", std::to_string(r.regiao), ""},
         {"Fase", r.fase, ""},
         {"Massa específica", Texto(r.massa_especifica), "Kg/m³"},
@@ -142,6 +141,9 @@ std::vector<LinhaPropriedade> LinhasPropriedades(const PropriedadesAgua& r) {
             ? LinhaPropriedade{"Temperatura de saturação", Texto(*r.temperatura_saturacao_C), "ºC"}
             : LinhaPropriedade{"Temperatura de saturação", "não há, a esta pressão", ""},
     };
+    if (!r.erro.empty())
+        for (LinhaPropriedade& l : linhas) l.valor.clear();
+    return linhas;
 }
 
 std::string DescreveAlvo(const FrmCalcTramelo* f) {

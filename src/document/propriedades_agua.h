@@ -43,7 +43,8 @@ PontoDigitado PontoDoCalculo(const FrmCalcTramelo* f);
 PropriedadesAgua PropriedadesNoPonto(const PontoAgua& p);
 
 // The properties as a person reads them: six significant digits with the
-// decimal comma, units in the program's spelling. None for an error.
+// decimal comma, units in the program's spelling. With an error, the same
+// lines with no values.
 struct LinhaPropriedade {
     std::string rotulo, valor, unidade;
 };
