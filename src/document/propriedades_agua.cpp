@@ -147,7 +147,7 @@ std::vector<LinhaPropriedade> LinhasPropriedades(const PropriedadesAgua& r) {
 }
 
 std::string DescreveAlvo(const FrmCalcTramelo* f) {
-    if (!f) return "Nenhum cálculo aberto: as propriedades são só para consulta.";
+    if (!f) return "Sem cálculo ativo: as propriedades são só para consulta.";
     const std::string inicio = "Cálculo “" + f->Caption + "”";
     switch (f->cboFluido.ListIndex()) {
     case Liquido:
