@@ -150,7 +150,7 @@ void PropriedadesView::MostraPonto(const PontoDigitado& p) {
 }
 
 void PropriedadesView::Calcula() {
-    const PropriedadesAgua r = PropriedadesNoPonto(LePontoAgua(Ponto()));
+    const PropriedadesAgua r = PropriedadesNoPonto(Ponto());
     const std::vector<LinhaPropriedade> linhas = LinhasPropriedades(r);
     for (size_t k = 0; k < linhas.size() && k < valores_.size(); ++k) {
         valores_[k]->setText(Q(linhas[k].valor));

@@ -121,6 +121,10 @@ PropriedadesAgua PropriedadesNoPonto(const PontoAgua& p) {
     return CalculaPropriedadesAgua(p.p_kPa, p.T_C);
 }
 
+PropriedadesAgua PropriedadesNoPonto(const PontoDigitado& d) {
+    return PropriedadesNoPonto(LePontoAgua(d));
+}
+
 std::vector<LinhaPropriedade> LinhasPropriedades(const PropriedadesAgua& r) {
     const std::string especifico = "kJ/(Kg.K)";
     std::vector<LinhaPropriedade> linhas{

@@ -41,6 +41,8 @@ PontoDigitado PontoDoCalculo(const FrmCalcTramelo* f);
 // The properties at the point; only `erro` when the point wasn't read or is
 // outside IAPWS-IF97.
 PropriedadesAgua PropriedadesNoPonto(const PontoAgua& p);
+// The same for a point as typed: what the window shows at each key.
+PropriedadesAgua PropriedadesNoPonto(const PontoDigitado& d);
 
 // The properties as a person reads them: six significant digits with the
 // decimal comma, units in the program's spelling. With an error, the same
