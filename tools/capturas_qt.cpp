@@ -26,6 +26,7 @@
 #include <QDir>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
 
@@ -157,6 +158,15 @@ int main(int argc, char** argv) {
     QTest::mouseDClick(campo, Qt::LeftButton);
     Captura(&programa.janela(), "06-calculadora");
     if (CalculadoraView* c = CalculadoraView::Aberta()) c->Fecha();
+
+    // The water and steam window on the water calculation, applied to it.
+    emit programa.janela().pedePropriedades();
+    if (auto* p = programa.janela().findChild<QWidget*>(QStringLiteral("frmPropriedades"))) {
+        p->move(programa.janela().geometry().right() - p->width() - 20, 120);
+        QTest::mouseClick(Widget<QPushButton>(p, "cmdAplicar"), Qt::LeftButton);
+        Captura(&programa.janela(), "12-propriedades");
+        p->close();
+    }
 
     MostraDicasQt(&programa.janela());
     Captura(&programa.janela(), "07-dica-do-dia");

@@ -24,6 +24,7 @@
 #include "desktop/mdi_menu_view.h"
 #include "base/mod_base.h"
 #include "desktop/opcoes_view.h"
+#include "desktop/propriedades_view.h"
 #include "desktop/tabela_view.h"
 
 #include <QApplication>
@@ -123,6 +124,24 @@ void ProgramaQt::Carrega() {
         tabela->TabelaInicia(static_cast<short>(indice));
         j->AdicionaFilho(tabela);
     });
+    QObject::connect(j, &MdiMenuView::pedePropriedades, j, [this] { AbrePropriedades(); });
+}
+
+void ProgramaQt::AbrePropriedades() {
+    if (!janela_) return;
+    FrmCalcTramelo* ativo = filhoAtivo().calculo;
+    if (!propriedades_) {
+        propriedades_ = new PropriedadesView(ativo, janela_.get());
+        // Serves the calculation the user was last in; the frame has set it
+        // as the active child by the time this runs.
+        QObject::connect(janela_->area(), &QMdiArea::subWindowActivated, propriedades_,
+                         [v = propriedades_.data()] { v->Serve(filhoAtivo().calculo); });
+    } else {
+        propriedades_->Serve(ativo);
+    }
+    propriedades_->show();
+    propriedades_->raise();
+    propriedades_->activateWindow();
 }
 
 // The desk calculator opens beside the field it types into.

@@ -6,6 +6,8 @@
 #include "base/pedidos.h"
 #include "shell/inicio.h"
 
+#include <QPointer>
+
 #include <memory>
 
 namespace tramelo {
@@ -16,6 +18,7 @@ class DialogosQt;
 class SistemaQt;
 class LigacaoQt;
 class AberturaQt;
+class PropriedadesView;
 
 class ProgramaQt : public TelaMenu, public PedidosDesktop {
   public:
@@ -47,6 +50,10 @@ class ProgramaQt : public TelaMenu, public PedidosDesktop {
     void MostraDicas() override;
     void Sai() override;
 
+    // The water and steam window, one at a time, serving the active
+    // calculation; opened again, it comes to the front.
+    void AbrePropriedades();
+
   private:
     std::unique_ptr<CaixasQt> caixas_;
     std::unique_ptr<DialogosQt> dialogos_;
@@ -54,6 +61,7 @@ class ProgramaQt : public TelaMenu, public PedidosDesktop {
     std::unique_ptr<LigacaoQt> ligacao_;
     std::unique_ptr<AberturaQt> abertura_;
     std::unique_ptr<MdiMenuView> janela_;
+    QPointer<PropriedadesView> propriedades_; // owned by the main window
 };
 
 // main(): the Qt application around the program.

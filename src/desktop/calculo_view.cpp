@@ -5,11 +5,13 @@
 #include "sizing/catalogo.h"
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QComboBox>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -339,6 +341,14 @@ bool CalculoView::eventFilter(QObject* objeto, QEvent* evento) {
         break;
     }
     return QWidget::eventFilter(objeto, evento);
+}
+
+void CalculoView::contextMenuEvent(QContextMenuEvent* e) {
+    // The right button anywhere but in a text field, whose menu is its own.
+    QMenu menu(this);
+    connect(menu.addAction(QStringLiteral("&Propriedades da água e do vapor...")),
+            &QAction::triggered, this, &CalculoView::pedePropriedades, Qt::QueuedConnection);
+    menu.exec(e->globalPos());
 }
 
 void CalculoView::closeEvent(QCloseEvent* e) {

@@ -37,9 +37,12 @@ class CalculoView : public QWidget {
   signals:
     void pedeFechar();
     void duploCliqueCampo(int indice);
+    // The window's own entry for the water and steam properties.
+    void pedePropriedades();
 
   protected:
     void closeEvent(QCloseEvent* e) override;
+    void contextMenuEvent(QContextMenuEvent* e) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:

@@ -219,6 +219,7 @@ void MdiMenuView::Carregada(FrmCalcTramelo& f) {
             [this, p] { Acao([p] { mnuArquivoFechar_Click(*p); }); });
     connect(vc, &CalculoView::duploCliqueCampo, this,
             [this, p](int i) { Acao([p, i] { txtDados_DblClick(*p, i); }); });
+    connect(vc, &CalculoView::pedePropriedades, this, &MdiMenuView::pedePropriedades);
     connect(vr, &RelatorioView::pedeOcultar, this,
             [this, p] { Acao([p] { Relatorio_QueryUnload(*p->Relatorio, true); }); });
     pares_.push_back({p, jc, vc, jr, vr});
@@ -552,6 +553,10 @@ void MdiMenuView::ConstroiMenus() {
     m.relatorios = item(exibir, QString(), &mnuExibirRelatorio_Click, QKeySequence(QStringLiteral("Ctrl+R")));
     m.sepExibir2 = exibir->addSeparator();
     item(exibir, QStringLiteral("&Opções..."), sinal(&MdiMenuView::pedeOpcoes));
+
+    QMenu* ferramentas = barra->addMenu(QStringLiteral("&Ferramentas"));
+    item(ferramentas, QStringLiteral("&Propriedades da água e do vapor..."),
+         sinal(&MdiMenuView::pedePropriedades));
 
     QMenu* janela = barra->addMenu(QStringLiteral("&Janela"));
     m.cascata = item(janela, QString(), [this] { area_->cascadeSubWindows(); });

@@ -68,6 +68,7 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador
     void pedeDicas();
     void pedeSobre();
     void pedeTabelaVapor(int indice);
+    void pedePropriedades();
 
   protected:
     void closeEvent(QCloseEvent* e) override;

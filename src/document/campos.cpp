@@ -53,7 +53,7 @@ void PosicionaFaixa(Faixa& p, int posicao) {
 
 } // namespace
 
-bool LinhaEmUso(FrmCalcTramelo& f, int Index) {
+bool LinhaEmUso(const FrmCalcTramelo& f, int Index) {
     const Faixa* p = f.picDados(Index);
     return p && p->Tag == TextoBooleano(true);
 }

@@ -14,7 +14,7 @@ inline constexpr int LinhasVisiveis = 9;
 
 // A row is in use when its strip's Tag says so; an index without a row, or a
 // strip never touched, is out of use.
-bool LinhaEmUso(FrmCalcTramelo& f, int Index);
+bool LinhaEmUso(const FrmCalcTramelo& f, int Index);
 
 // Puts a row in or out of use. While the list is disabled a row put in use
 // keeps its caption, text and unit list off.

@@ -179,6 +179,14 @@ std::optional<double> LeNumero(std::string_view t) {
     return negativo ? -v : v;
 }
 
+std::optional<double> LeNumeroPontoOuVirgula(std::string_view texto) {
+    if (texto.find(',') != std::string_view::npos) return LeNumero(texto);
+    std::string t(texto);
+    for (char& c : t)
+        if (c == '.') c = ',';
+    return LeNumero(t);
+}
+
 double TextoParaNumero(std::string_view texto) {
     auto v = LeNumero(texto);
     if (!v) throw Falha(TiposIncompativeis);
@@ -189,6 +197,12 @@ double TextoParaNumero(std::string_view texto) {
 std::string NumeroParaTexto(double x) {
     std::string s;
     Formata(s, x, 15);
+    return s;
+}
+
+std::string NumeroParaTexto(double x, int digitos) {
+    std::string s;
+    Formata(s, x, digitos < 1 ? 1 : digitos > 15 ? 15 : digitos);
     return s;
 }
 

@@ -18,6 +18,11 @@ std::optional<double> LeNumero(std::string_view texto);
 // with 6 (overflow) where it is beyond the range of a double.
 double TextoParaNumero(std::string_view texto);
 
+// A number typed outside the rows (the water window, the command line),
+// where a point is the habit of many: with a comma in it, LeNumero's rules;
+// without one, "." is the decimal mark. Nothing for any other text.
+std::optional<double> LeNumeroPontoOuVirgula(std::string_view texto);
+
 // The default text form of a number: at most 15 significant digits, no
 // trailing zeros, decimal comma; fixed notation for 1E-4 <= |x| < 1E15,
 // otherwise "1,5E-05" or "1,23456789012346E+17".
@@ -25,6 +30,10 @@ std::string NumeroParaTexto(double x);
 
 // The same, appending to `saida` (no allocation when it has room).
 void AcrescentaNumero(std::string& saida, double x);
+
+// The default text form with at most `digitos` significant digits, correctly
+// rounded: a figure worked out by the program, written where a person reads it.
+std::string NumeroParaTexto(double x, int digitos);
 
 // A single-precision number in its default text form (at most 7 digits).
 std::string NumeroSimplesParaTexto(float x);

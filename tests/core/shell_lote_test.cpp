@@ -131,26 +131,70 @@ TEST_F(ShellLote, SecaoIsoDepoisDeCadaRelatorio) {
 
 TEST_F(ShellLote, AjudaEErrosDeOpcaoEmPortugues) {
     const std::string uso = "uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...\n"
+                            "     tramelo-calc --propriedades P T [--json]\n"
                             "Use --help para mais informações.\n";
     struct Caso {
         std::string argumentos;
         int status;
         std::string saida, erros;
     } casos[] = {
-        {"--help", 0, "Calcula os arquivos de cálculo (.trl) do Tramelo e imprime seus relatórios.\nUso: "
-         "tramelo-calc [OPÇÕES] ARQUIVO...\n\nArgumentos:\n  ARQUIVO TEXTO ... OBRIGATÓRIO\n" + std::string(30, ' ') +
-         "Arquivos de cálculo (.trl)\n\nOpções:\n  -h,--help                   Mostra esta ajuda e sai\n  --json"
+        {"--help", 0, "Calcula os arquivos de cálculo (.trl) do Tramelo e imprime seus relatórios, ou as "
+         "propriedades da água e do vapor.\nUso: tramelo-calc [OPÇÕES] [ARQUIVO...]\n\nArgumentos:\n  ARQUIVO TEXTO ..."
+         "           Arquivos de cálculo (.trl)\n\nOpções:\n  -h,--help                   Mostra esta ajuda e sai\n  --json"
          "                      Saída em JSON: um objeto por arquivo\n  --sim                       Responde \"Sim\" "
          "a \"Deseja alterar o dados para cálculo?\" (o padrão é \"Não\")\n  --iso                       "
-         "Acrescenta a cada relatório a verificação pela ISO 5167-2:2003\n\n", ""},
+         "Acrescenta a cada relatório a verificação pela ISO 5167-2:2003\n  --propriedades P T          "
+         "Propriedades da água e do vapor pela IAPWS-IF97 a P kPa absolutos e T ºC, em vez de arquivos\n\n", ""},
         {"", 64, "", "tramelo-calc: falta o argumento obrigatório ARQUIVO\n" + uso},
         {"--nada -x a.trl", 64, "", "tramelo-calc: argumentos não esperados: --nada -x\n" + uso},
         {"--json=talvez a.trl", 64, "", "tramelo-calc: valor não aceito em --json\n" + uso},
+        {"--propriedades 1000", 64, "", "tramelo-calc: valor não aceito em --propriedades\n" + uso},
+        {"--iso --propriedades 1000 250", 64, "",
+         "tramelo-calc: --propriedades não se usa com ARQUIVO, --sim nem --iso\n" + uso},
     };
     for (const Caso& c : casos) {
         Saida s = Executa(c.argumentos);
         EXPECT_EQ(std::tie(s.status, s.saida, s.erros), std::tie(c.status, c.saida, c.erros)) << c.argumentos;
     }
+}
+
+// --propriedades: exactly the keys, unrounded figures against the row of
+// tests/data/agua/referencia.py at 1000 kPa, 250 ºC (ten digits printed),
+// the text form read with a comma, and points without figures: status 1.
+TEST_F(ShellLote, PropriedadesDaAguaEDoVapor) {
+    const Saida s = Executa("--propriedades 1000 250 --json");
+    EXPECT_EQ(s.status, 0);
+    const auto j = nlohmann::ordered_json::parse(s.saida);
+    std::vector<std::string> chaves;
+    for (const auto& [chave, valor] : j.items()) chaves.push_back(chave);
+    EXPECT_EQ(chaves, (std::vector<std::string>{
+                          "pressao_kPa", "temperatura_C", "regiao", "fase", "massa_especifica_kg_m3",
+                          "volume_especifico_m3_kg", "entalpia_kJ_kg", "entropia_kJ_kgK", "cp_kJ_kgK",
+                          "cv_kJ_kgK", "velocidade_som_m_s", "viscosidade_cP", "kappa", "cp_cv",
+                          "t_saturacao_C", "erro"}));
+    const std::pair<const char*, double> figuras[] = {
+        {"pressao_kPa", 1000}, {"temperatura_C", 250}, {"massa_especifica_kg_m3", 4.29665972},
+        {"volume_especifico_m3_kg", 1 / 4.29665972}, {"entalpia_kJ_kg", 2943.222165},
+        {"entropia_kJ_kgK", 6.92662274}, {"cp_kJ_kgK", 2.211620273}, {"cv_kJ_kgK", 1.636190174},
+        {"velocidade_som_m_s", 550.1074973}, {"viscosidade_cP", 1000 * 1.80582516e-05},
+        {"kappa", 1.300247682}, {"cp_cv", 1.351689008}, {"t_saturacao_C", 179.8856324}};
+    for (const auto& [chave, valor] : figuras) EXPECT_NEAR(j[chave].get<double>(), valor, 1e-9 * valor) << chave;
+    EXPECT_TRUE(j["regiao"] == 2 && j["fase"] == "vapor superaquecido" && j["erro"].is_null());
+    const std::string texto = Executa("--propriedades 1000,0 250").saida;
+    for (const char* linha : {"\nMassa específica .......................... 4,29666 Kg/m³\n",
+                              "\nExpoente isentrópico (κ = w²ρ/p) .......... 1,30025\n"})
+        EXPECT_NE(texto.find(linha), std::string::npos) << texto;
+
+    const Saida fora = Executa("--json --propriedades 1000 -5");
+    EXPECT_EQ(fora.status, 1);
+    const auto k = nlohmann::json::parse(fora.saida);
+    for (const auto& [chave, valor] : k.items())
+        EXPECT_TRUE(valor.is_null() || chave == "pressao_kPa" || chave == "temperatura_C" || chave == "erro") << chave;
+    EXPECT_EQ(k["erro"], "A temperatura está fora da faixa da IAPWS-IF97 (0 a 800 ºC até 100 MPa; acima de "
+                         "800 ºC até 2000 ºC, só até 50 MPa).");
+    const Saida letras = Executa("--propriedades abc 250");
+    EXPECT_EQ(std::tie(letras.status, letras.saida, letras.erros),
+              std::make_tuple(1, std::string(), std::string("Propriedades da água e do vapor: A pressão “abc” não é um número.\n")));
 }
 
 TEST_F(ShellLote, StatusDeSaida) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <fstream>
@@ -428,6 +429,42 @@ TEST_F(Jornada, ImprimeEmPdfEExporta) {
     x.Pausa(500);
     const std::string texto = x.Comando("pdftotext -layout '" + pdf + "' - 2>/dev/null");
     EXPECT_NE(texto.find("Flange Taps"), std::string::npos) << texto;
+}
+
+// The steam sample: the window "Propriedades da água e do vapor" opened from
+// the menu "Ferramentas" takes the calculation's 10,2 Kg/cm² and 200 ºC;
+// "Aplicar ao cálculo" writes density, viscosity and k, and the report of
+// "Calcular" shows them. Expected texts: the row of
+// tests/data/agua/referencia.py (python3-iapws) at 1000,2783 kPa, 200 ºC.
+TEST_F(Jornada, PropriedadesDoVaporAplicadasAoCalculo) {
+    ASSERT_TRUE(x.Inicia({Exemplo("vapor.trl")}));
+    ASSERT_TRUE(x.Espera("frame", "vapor.trl", 5000));
+    Menu({"&Ferramentas", "&Propriedades da água e do vapor..."});
+    auto pressao = x.Espera("text", "Pressão absoluta", 5000);
+    ASSERT_TRUE(pressao);
+    EXPECT_EQ(pressao->texto, "10,2");
+    EXPECT_EQ(x.Espera("text", "Temperatura", 3000).value_or(No{}).texto, "200");
+    EXPECT_TRUE(x.Espera("label", "4,85572", 3000)); // the density, shown
+    Botao("Aplicar ao cálculo");
+    // The calculation's rows as a person sees them, then its report.
+    const std::pair<const char*, const char*> linhas[] = {
+        {"Massa Específica (proj)", "4,85572"}, {"Viscosidade dinâmica (proj)", "0,0158759"},
+        {"Relação k=Cp/Cv", "1,29908"}};
+    for (int vez = 0; vez < 50 && x.Acha("text", linhas[0].first).value_or(No{}).texto != linhas[0].second; ++vez)
+        x.Pausa(100);
+    for (const auto& [rotulo, valor] : linhas)
+        EXPECT_EQ(x.Acha("text", rotulo).value_or(No{}).texto, valor) << rotulo;
+    Botao("Calcular");
+    ASSERT_TRUE(x.Espera("frame", "Relatório de Cálculo - vapor.trl", 5000));
+    const std::vector<No> arvore = x.Arvore();
+    for (const auto& [rotulo, valor] : linhas) {
+        const std::string inicio = std::string(" ") + rotulo + " _";
+        auto linha = std::find_if(arvore.begin(), arvore.end(), [&](const No& n) {
+            return n.papel == "list item" && n.nome.rfind(inicio, 0) == 0;
+        });
+        ASSERT_NE(linha, arvore.end()) << rotulo;
+        EXPECT_NE(linha->nome.find(std::string("_ ") + valor), std::string::npos) << linha->nome;
+    }
 }
 
 // The main window moved and resized, then the exit: the next start is at the

@@ -93,11 +93,12 @@ zcat "$tmp/raiz/usr/share/man/man1/tramelo-calc.1.gz" | LC_ALL=C.UTF-8 MANWIDTH=
 # The installed tool: Portuguese help, and a calculation whose data folder
 # is the user's, not the package's.
 ajuda=$("$tmp/raiz/usr/bin/tramelo-calc" --help)
-echo "$ajuda" | grep -q '^Uso: tramelo-calc \[OPÇÕES\] ARQUIVO' || falha "ajuda: $ajuda"
+echo "$ajuda" | grep -q '^Uso: tramelo-calc \[OPÇÕES\] \[ARQUIVO' || falha "ajuda: $ajuda"
 echo "$ajuda" | grep -Eq 'Usage|Positionals|Options|Print this|REQUIRED' && falha "ajuda em inglês: $ajuda"
 erro=$("$tmp/raiz/usr/bin/tramelo-calc" --nada x.trl 2>&1 > /dev/null) && falha "opção desconhecida aceita"
 [ "$erro" = "tramelo-calc: argumento não esperado: --nada
 uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...
+     tramelo-calc --propriedades P T [--json]
 Use --help para mais informações." ] || falha "erro de opção: $erro"
 
 # `cmake --install` under a user prefix: the same files in the same places.
