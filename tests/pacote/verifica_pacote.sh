@@ -48,6 +48,7 @@ usr/share/tramelo/manual/iso5167.html
 usr/share/tramelo/manual/linha-de-comando.html
 usr/share/tramelo/manual/metodo.html
 usr/share/tramelo/manual/primeiros-passos.html
+usr/share/tramelo/manual/propriedades.html
 usr/share/tramelo/manual/relatorio.html
 LISTA
 diff -u "$tmp/esperados" "$tmp/arquivos" || falha "arquivos do pacote"
