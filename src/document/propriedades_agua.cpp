@@ -30,9 +30,11 @@ std::string Texto(double x) {
     return NumeroParaTexto(x, Digitos);
 }
 
-// The saturation temperature as the messages give it, to the hundredth.
+// The saturation temperature as the messages give it, cut to the
+// hundredth: 179,8856 ºC at 1000 kPa reads 179,88, the figure steam tables
+// print.
 std::string TextoSaturacao(double T_C) {
-    return NumeroParaTexto(std::round(T_C * 100) / 100);
+    return NumeroParaTexto(std::floor(T_C * 100) / 100);
 }
 
 std::string TextoPressao(const PontoAgua& p) {

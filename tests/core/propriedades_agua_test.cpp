@@ -98,9 +98,9 @@ TEST(PropriedadesAgua, RecusasNaoEscrevemNada) {
         {{1, {{12, "500"}, {9, "40"}}}, {"500", 0, "40"},
          "As propriedades da água e do vapor não se aplicam a um gás: nada foi escrito no cálculo."},
         // R7-97(2012) Table 36: Tsat(1 MPa) = 453,035632 K = 179,8856 ºC;
-        // referencia.py: Tsat(10,2 Kg/cm²) = 179,90 ºC.
-        {vapor, {"1000", 0, "179"}, "O vapor não está superaquecido: a 1000 kPa a saturação é 179,89 ºC"},
-        {vapor, {"10,2", 1, "150"}, "O vapor não está superaquecido: a 10,2 Kg/cm² a saturação é 179,9 ºC"},
+        // referencia.py: Tsat(10,2 Kg/cm²) = 179,898 ºC.
+        {vapor, {"1000", 0, "179"}, "O vapor não está superaquecido: a 1000 kPa a saturação é 179,88 ºC"},
+        {vapor, {"10,2", 1, "150"}, "O vapor não está superaquecido: a 10,2 Kg/cm² a saturação é 179,89 ºC"},
         // referencia.py: Tsat(101,325 kPa) = 99,9743 ºC, for row 9 and for row 8.
         {agua, {"101,325", 0, "120"}, "A água não está líquida: a 101,325 kPa a saturação é 99,97 ºC"},
         {{0, {{8, "105"}, {9, "20"}}}, {"101,325", 0, "20"},
