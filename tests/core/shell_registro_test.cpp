@@ -122,6 +122,15 @@ TEST(ShellRecentes, AdicionaMRU) {
     AdicionaMRU("/home/joão/A.trl"); // case ignored in accented letters too
     EXPECT_EQ(f[0], "/home/JOÃO/a.trl");
     EXPECT_EQ(f[1], "/a/5.trl");
+    // A window's menu: each entry numbered from 1, "Vazio" only with none.
+    MenuRecentes menu;
+    AtualizaMRU(menu);
+    EXPECT_TRUE(menu.mnuArquivoMRU[0].Visible && !menu.mnuArquivoMRUVazio.Visible);
+    EXPECT_EQ(menu.mnuArquivoMRU[0].Caption, "&1 /home/JOÃO/a.trl");
+    EXPECT_EQ(menu.mnuArquivoMRU[3].Caption, "&4 /A/4.TRL");
+    f = {};
+    AtualizaMRU(menu);
+    EXPECT_TRUE(!menu.mnuArquivoMRU[0].Visible && menu.mnuArquivoMRUVazio.Visible);
 }
 
 TEST(ShellRecentes, EncurtaCaminho) {
