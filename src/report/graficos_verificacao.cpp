@@ -94,7 +94,7 @@ Grafico GraficoLimites(const VerificacaoFeita& v) {
         if (f.aplicavel) menor = std::min(menor, f.ReD), maior = std::max(maior, f.ReD);
     g.y = EixoDecadas("ReD", menor, maior);
     g.x.titulo = "β = d/D";
-    g.x.maximo = std::max(0.8, std::ceil((r.beta + 0.05) * 10) / 10);
+    g.x.maximo = std::clamp(std::ceil((r.beta + 0.05) * 10) / 10, 0.8, 1.0);
     for (int k = 0; k <= static_cast<int>(std::lround(g.x.maximo * 10)); ++k)
         g.x.marcas.push_back({k / 10.0, NumeroParaTexto(k / 10.0)});
 
