@@ -81,14 +81,15 @@ void DesenhaGrafico(QPainter& p, const QRectF& area, const Grafico& g, double po
     const QFontMetricsF m(texto, p.device());
     const double linha = m.height();
 
-    // Title on top, the legend's row at the bottom, the x axis's ticks and
-    // title above it, the y axis's ticks and title on the left.
+    // Title on top, the legend's rows at the bottom, the x axis's ticks and
+    // title above them, the y axis's ticks and title on the left.
     p.setFont(titulo);
     p.setPen(Qt::black);
     p.drawText(QRectF(area.left(), area.top(), area.width(), 1.4 * linha), Qt::AlignCenter,
                Q(g.titulo));
     double larguraMarcas = 0;
-    for (const auto& [v, t] : g.y.marcas) larguraMarcas = std::max(larguraMarcas, m.horizontalAdvance(Q(t)));
+    for (const auto& [v, t] : g.y.marcas)
+        larguraMarcas = std::max(larguraMarcas, m.horizontalAdvance(Q(t)));
     const double esquerda = area.left() + linha * 1.4 + larguraMarcas + 4 * u;
 
     // The legend: each named series with its mark, in rows as wide as the
@@ -116,19 +117,20 @@ void DesenhaGrafico(QPainter& p, const QRectF& area, const Grafico& g, double po
              QPointF(area.right() - 8 * u, topoLegenda - 2.2 * linha));
     if (!g.series.empty() && r.width() > 0 && r.height() > 0) {
         p.fillRect(r, Qt::white);
-        auto Ponto = [&](double x, double y) {
-            return QPointF(r.left() + Fracao(g.x, x) * r.width(), r.bottom() - Fracao(g.y, y) * r.height());
+        auto Ponto = [&](double vx, double vy) {
+            return QPointF(r.left() + Fracao(g.x, vx) * r.width(),
+                           r.bottom() - Fracao(g.y, vy) * r.height());
         };
 
         // Grid and ticks.
         p.setFont(texto);
         for (const auto& [v, t] : g.x.marcas) {
-            const double x = r.left() + Fracao(g.x, v) * r.width();
+            const double px = r.left() + Fracao(g.x, v) * r.width();
             p.setPen(QPen(QColor(0xDD, 0xDD, 0xDD), 0.8 * u));
-            p.drawLine(QPointF(x, r.top()), QPointF(x, r.bottom()));
+            p.drawLine(QPointF(px, r.top()), QPointF(px, r.bottom()));
             p.setPen(Qt::black);
-            p.drawText(QRectF(x - 40 * u, r.bottom() + 2 * u, 80 * u, linha), Qt::AlignHCenter | Qt::AlignTop,
-                       Q(t));
+            p.drawText(QRectF(px - 40 * u, r.bottom() + 2 * u, 80 * u, linha),
+                       Qt::AlignHCenter | Qt::AlignTop, Q(t));
         }
         for (const auto& [v, t] : g.y.marcas) {
             const double y = r.bottom() - Fracao(g.y, v) * r.height();
@@ -155,7 +157,7 @@ void DesenhaGrafico(QPainter& p, const QRectF& area, const Grafico& g, double po
         const QFontMetricsF mm(menor, p.device());
         for (const SerieGrafico& s : g.series) {
             QPolygonF pol;
-            for (const auto& [x, y] : s.pontos) pol << Ponto(x, y);
+            for (const auto& [vx, vy] : s.pontos) pol << Ponto(vx, vy);
             if (s.traco == Traco::Regiao) {
                 p.setPen(QPen(Cor(s.cor), 1.4 * u));
                 p.setBrush(Cor(s.cor, 50));
