@@ -51,6 +51,11 @@ std::string MensagemEmPortugues(const CLI::App& app, const CLI::ParseError& erro
         const std::string nome = NomeNaMensagem(texto, " is required");
         return nome.empty() ? "falta um argumento obrigatório" : "falta o argumento obrigatório " + nome;
     }
+    if (dynamic_cast<const CLI::RequiresError*>(&erro)) {
+        const size_t k = texto.find(" requires ");
+        if (k != std::string::npos)
+            return texto.substr(0, k) + " só vale com " + texto.substr(k + 10);
+    }
     const std::string nome = NomeNaMensagem(texto, ": ");
     if (dynamic_cast<const CLI::ConversionError*>(&erro) ||
         dynamic_cast<const CLI::ArgumentMismatch*>(&erro) ||

@@ -18,7 +18,9 @@
 #include "desktop/opcoes_view.h"
 #include "shell/registro.h"
 #include "desktop/tabela_view.h"
+#include "desktop/verificacao_view.h"
 #include <QPrinter>
+#include <QPushButton>
 #include <QProcess>
 #include <QScreen>
 #include <QTimer>
@@ -138,6 +140,17 @@ int main(int argc, char** argv) {
         if (!abas->isVisible()) continue;
         abas->setCurrentIndex(1);
         Captura(&programa.janela(), "04-relatorio-iso");
+        // The rating of a 60 mm plate over a range reaching below the
+        // least ReD, pictured whole, beyond the tab's scrolling.
+        if (auto* v = abas->findChild<VerificacaoView*>()) {
+            Digita(Widget<QLineEdit>(v, "txtDiametroVerificacao"), QStringLiteral("60"));
+            Digita(Widget<QLineEdit>(v, "txtFaixaVerificacao"), QStringLiteral("2; 10; 25; 50; 75; 100; 120"));
+            QTest::mouseClick(Widget<QPushButton>(v, "cmdVerificar"), Qt::LeftButton);
+            QApplication::processEvents();
+            const QString arquivo = pasta + QStringLiteral("/04-verificacao.png");
+            v->grab().save(arquivo);
+            std::printf("%s\n", qPrintable(arquivo));
+        }
         abas->setCurrentIndex(0);
     }
 
@@ -202,8 +215,8 @@ int main(int argc, char** argv) {
     if (QProcess::execute(QStringLiteral("pdftoppm"),
                           {QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("70"),
                            QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"),
-                           QStringLiteral("2"), pdf, png}) == 0)
-        std::printf("%s-1.png\n%s-2.png\n", qPrintable(png), qPrintable(png));
+                           QStringLiteral("3"), pdf, png}) == 0)
+        std::printf("%s-1.png\n%s-2.png\n%s-3.png\n", qPrintable(png), qPrintable(png), qPrintable(png));
 
     // Qt's own dialogs as the program shows them, each cancelled once pictured.
     DialogosQt dialogosQt(&programa.janela());

@@ -5,6 +5,7 @@
 #include "document/propriedades_agua.h"
 #include "lote/lote.h"
 #include "report/linhas_iso.h"
+#include "report/linhas_verificacao.h"
 #include "base/mod_base.h"
 #include "plataforma/numero.h"
 #include "sizing/catalogo.h"
@@ -13,9 +14,12 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -117,6 +121,79 @@ int Propriedades(const std::string& P, const std::string& T, bool json) {
     return ok ? 0 : 1;
 }
 
+// --verifica D_MM [--faixa P1,P2,...]: the bore with a point or a comma
+// for its decimal mark; the percentages apart at commas, so their decimal
+// mark is the point.
+std::optional<double> NumeroDaOpcao(std::string s) {
+    std::replace(s.begin(), s.end(), ',', '.');
+    char* fim = nullptr;
+    const double v = std::strtod(s.c_str(), &fim);
+    if (s.empty() || *fim != '\0' || !std::isfinite(v)) return std::nullopt;
+    return v;
+}
+
+std::optional<std::vector<double>> FaixaDaOpcao(const std::string& s) {
+    std::vector<double> v;
+    for (size_t i = 0; i <= s.size();) {
+        const size_t fim = std::min(s.find(',', i), s.size());
+        const std::optional<double> n = NumeroDaOpcao(s.substr(i, fim - i));
+        if (!n || !(*n > 0) || *n > tramelo::PorcentagemMaxima) return std::nullopt;
+        v.push_back(*n);
+        i = fim + 1;
+    }
+    if (v.size() > static_cast<size_t>(tramelo::PontosMaximos)) return std::nullopt;
+    return v;
+}
+
+tramelo::VerificacaoFeita Verifica(const tramelo::ResultadoLote& r, const std::string& d,
+                                   const std::string& faixa) {
+    tramelo::EntradaVerificacao e;
+    e.ponto = r.ponto.iso;
+    e.d20_mm = NumeroDaOpcao(d).value_or(0);
+    if (!faixa.empty()) e.vazoes_pct = FaixaDaOpcao(faixa).value_or(std::vector<double>{});
+    return {e, tramelo::VerificaPlaca(e)};
+}
+
+void OpcoesDeVerificacao(CLI::App& app, std::string& verifica, std::string& faixa) {
+    auto* opcao =
+        app.add_option("--verifica", verifica,
+                       "Verifica uma placa existente com este diâmetro do orifício a 20 ºC, em mm")
+            ->type_name("D_MM")
+            ->check([](const std::string& s) {
+                const std::optional<double> d = NumeroDaOpcao(s);
+                return d && *d > 0 ? std::string() : std::string("D_MM");
+            });
+    app.add_option("--faixa", faixa,
+                   "Porcentagens da vazão de projeto na verificação (padrão 10,25,50,75,100)")
+        ->type_name("P1,P2,...")
+        ->needs(opcao)
+        ->check([](const std::string& s) { return FaixaDaOpcao(s) ? std::string() : std::string("P"); });
+}
+
+// The rating as JSON: unrounded numbers, null where nothing was computed.
+nlohmann::json JsonVerificacao(const tramelo::ResultadoVerificacao& r) {
+    auto numero = [](bool ok, double v) { return ok ? nlohmann::json(v) : nlohmann::json(nullptr); };
+    nlohmann::json faixa = nlohmann::json::array();
+    for (const tramelo::PontoFaixa& f : r.faixa)
+        faixa.push_back({{"vazao_pct", f.vazao_pct},
+                         {"vazao_kg_h", numero(f.aplicavel, f.vazao_kg_h)},
+                         {"pressao_diferencial_Pa", numero(f.aplicavel, f.pressao_diferencial_Pa)},
+                         {"ReD", numero(f.aplicavel, f.ReD)},
+                         {"C", numero(f.aplicavel, f.C)},
+                         {"epsilo", numero(f.aplicavel, f.epsilo)},
+                         {"incerteza_vazao_pct", numero(f.aplicavel, f.incerteza_vazao_pct)},
+                         {"dentro_dos_limites", f.aplicavel ? nlohmann::json(f.dentro_dos_limites)
+                                                            : nlohmann::json(nullptr)},
+                         {"limites_fora", f.limites_fora}});
+    return {{"aplicavel", r.aplicavel},
+            {"motivo", r.aplicavel ? nlohmann::json(nullptr) : nlohmann::json(r.motivo)},
+            {"d_mm_20C", numero(r.aplicavel, r.d_mm_20C)},
+            {"d_mm_operacao", numero(r.aplicavel, r.d_mm_operacao)},
+            {"vazao_kg_h", numero(r.aplicavel, r.vazao_kg_h)},
+            {"pressao_diferencial_Pa", numero(r.aplicavel, r.pressao_diferencial_Pa)},
+            {"faixa", std::move(faixa)}};
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -139,10 +216,13 @@ int main(int argc, char** argv) {
                    "em vez de arquivos")
         ->expected(1, 2) // two, checked below: the help then shows "P T" alone
         ->type_name("P T");
+    std::string verifica, faixa;
+    OpcoesDeVerificacao(app, verifica, faixa);
     app.add_option("ARQUIVO", arquivos, "Arquivos de cálculo (.trl)");
     auto erro = [](const std::string& mensagem) {
         std::cerr << "tramelo-calc: " << mensagem << "\n"
-                  << "uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...\n"
+                  << "uso: tramelo-calc [--json] [--sim] [--iso] [--verifica D_MM [--faixa P1,P2,...]] "
+                     "ARQUIVO.trl...\n"
                   << "     tramelo-calc --propriedades P T [--json]\n"
                   << "Use --help para mais informações.\n";
         return 64;
@@ -156,8 +236,8 @@ int main(int argc, char** argv) {
     }
     if (!propriedades.empty()) {
         if (propriedades.size() != 2) return erro("valor não aceito em --propriedades");
-        if (!arquivos.empty() || sim || iso)
-            return erro("--propriedades não se usa com ARQUIVO, --sim nem --iso");
+        if (!arquivos.empty() || sim || iso || !verifica.empty())
+            return erro("--propriedades não se usa com ARQUIVO, --sim, --iso nem --verifica");
         return Propriedades(propriedades[0], propriedades[1], json);
     }
     if (arquivos.empty()) return erro("falta o argumento obrigatório ARQUIVO");
@@ -187,6 +267,7 @@ int main(int argc, char** argv) {
             else
                 objeto["erro"] = nullptr;
             objeto["iso5167"] = JsonIso(r.iso);
+            if (!verifica.empty()) objeto["verificacao"] = JsonVerificacao(Verifica(r, verifica, faixa).resultado);
             saida.push_back(std::move(objeto));
         } else {
             if (k > 0) std::cout << "\n";
@@ -195,6 +276,11 @@ int main(int argc, char** argv) {
             if (iso) {
                 std::cout << "\n";
                 for (const std::string& l : tramelo::LinhasIso5167(r.iso))
+                    std::cout << l << "\n";
+            }
+            if (!verifica.empty()) {
+                std::cout << "\n";
+                for (const std::string& l : tramelo::LinhasVerificacao(Verifica(r, verifica, faixa), r.ponto))
                     std::cout << l << "\n";
             }
         }

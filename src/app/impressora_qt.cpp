@@ -1,5 +1,6 @@
 #include "app/impressora_qt.h"
 
+#include "desktop/grafico_view.h"
 #include "plataforma/falha.h"
 
 #include <QFontMetricsF>
@@ -14,6 +15,9 @@ namespace {
 
 constexpr int ErroImpressora = 482;
 constexpr int ValorInvalido = 380;
+// A printed picture's height over its width, and the size of its text.
+constexpr double ProporcaoGrafico = 0.8;
+constexpr double PontosGrafico = 7;
 
 } // namespace
 
@@ -96,6 +100,27 @@ void ImpressoraQt::NovaPagina() {
     if (!impressora_.newPage()) throw Falha(ErroImpressora);
     x_ = 0;
     y_ = 0;
+}
+
+void ImpressoraQt::ImprimeGraficos(const std::vector<Grafico>& graficos, int coluna) {
+    if (graficos.empty()) return;
+    QPainter& p = Pintor();
+    const QFontMetricsF m(fonte_, &impressora_);
+    const double esquerda = (std::max(coluna, 1) - 1) * m.averageCharWidth();
+    const double vao = 2 * m.averageCharWidth();
+    const double n = static_cast<double>(graficos.size());
+    const double largura = (impressora_.width() - esquerda - (n - 1) * vao) / n;
+    const double altura = largura * ProporcaoGrafico;
+    if (y_ > 0 && y_ + altura > impressora_.height()) {
+        if (!impressora_.newPage()) throw Falha(ErroImpressora);
+        y_ = 0;
+    }
+    for (size_t i = 0; i < graficos.size(); ++i)
+        DesenhaGrafico(p, QRectF(esquerda + static_cast<double>(i) * (largura + vao), y_, largura, altura),
+                       graficos[i], PontosGrafico);
+    p.setFont(fonte_);
+    x_ = 0;
+    y_ += altura;
 }
 
 void ImpressoraQt::FimDocumento() {

@@ -25,6 +25,7 @@ class ImpressoraQt : public Impressora {
     void DefineFonte(const std::string& nome, int tamanho, bool negrito) override;
     void ImprimeLinha(const std::vector<PecaLinha>& pecas) override;
     void NovaPagina() override;
+    void ImprimeGraficos(const std::vector<Grafico>& graficos, int coluna) override;
     void FimDocumento() override;
 
   private:

@@ -1,5 +1,6 @@
 #include "desktop/relatorio_view.h"
 
+#include "desktop/verificacao_view.h"
 #include "report/agora.h"
 #include "report/frm_relatorio.h"
 #include "report/linhas_iso.h"
@@ -105,7 +106,8 @@ RelatorioView::RelatorioView(FrmRelatorio& registro, QWidget* pai)
     lstIso_->setObjectName(QStringLiteral("lstIso"));
     lstIso_->setFont(fixa);
     lstIso_->setTextElideMode(Qt::ElideNone);
-    abas_->addTab(lstIso_, QStringLiteral("ISO 5167-2:2003"));
+    verificacao_ = new VerificacaoView(registro_);
+    abas_->addTab(AbaIsoComVerificacao(lstIso_, verificacao_), QStringLiteral("ISO 5167-2:2003"));
     lstRelatorio_->setUniformItemSizes(true);
     lstRelatorio_->setTextElideMode(Qt::ElideNone);
     lstRelatorio_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -160,6 +162,7 @@ void RelatorioView::Sincroniza() {
             if (l.ends_with("FORA")) item->setForeground(QColor(0xB0, 0x00, 0x00));
         }
     }
+    verificacao_->Sincroniza();
 }
 
 void RelatorioView::closeEvent(QCloseEvent* e) {

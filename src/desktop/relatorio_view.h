@@ -14,6 +14,7 @@ class QTabWidget;
 namespace tramelo {
 
 struct FrmRelatorio;
+class VerificacaoView;
 
 class RelatorioView : public QWidget {
     Q_OBJECT
@@ -40,6 +41,7 @@ class RelatorioView : public QWidget {
     QListWidget* lstRelatorio_;
     QTabWidget* abas_;
     QListWidget* lstIso_;
+    VerificacaoView* verificacao_;
     int linhasMostradas_ = -1;
 };
 

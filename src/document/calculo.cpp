@@ -146,7 +146,14 @@ void Rodape(FrmCalcTramelo& f) {
 // The standard's answer beside the report, from the values of the run.
 void SegundaOpiniao(FrmCalcTramelo& f, const Execucao& x, bool concluido) {
     FrmRelatorio& r = *f.Relatorio;
-    r.iso = CalculaIso5167(EntradaIso5167(x, f.Fluido, f.Placa, f.Tomada, concluido));
+    const EntradaIso ponto = EntradaIso5167(x, f.Fluido, f.Placa, f.Tomada, concluido);
+    r.iso = CalculaIso5167(ponto);
+    // Row 2 as typed, before any unit of it is brought to kg/h.
+    const CaixaTexto* vazao = f.txtDados(2);
+    const CaixaCombinacao* unidade = f.cboDados(2);
+    r.pontoIso = PontoDeProjeto{ponto, vazao ? LeNumero(vazao->Text()).value_or(0) : 0,
+                                unidade ? unidade->Text() : std::string()};
+    r.verificacao.reset();
     r.Tag = f.txtTag.Text();
     r.Arquivo = f.Caption;
 }

@@ -162,6 +162,7 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     }
     // The check the run made for its report window, not a second one.
     r.iso = f->Relatorio->iso.value_or(ResultadoIso{});
+    r.ponto = f->Relatorio->pontoIso.value_or(PontoDeProjeto{});
     r.status = c.fim == FimCalculo::Concluido ? 0 : c.fim == FimCalculo::Interrompido ? 1 : 2;
     // Closed without a question: the tool never saves.
     f->DefineAlterado(false);

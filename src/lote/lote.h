@@ -5,6 +5,7 @@
 
 #include "plataforma/falha.h"
 #include "iso5167/iso5167.h"
+#include "report/verifica_placa.h"
 
 #include <optional>
 #include <string>
@@ -32,6 +33,9 @@ struct ResultadoLote {
     // 3 not a calculation file.
     int status = 0;
     ResultadoIso iso; // the ISO 5167-2 check of the run, or why there is none
+    // The run's point for a rating of an existing plate; a run that didn't
+    // complete leaves one the rating refuses.
+    PontoDeProjeto ponto;
 };
 
 // The batch tool's test of a file's first bytes: the header lines a

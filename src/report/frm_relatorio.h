@@ -4,6 +4,7 @@
 
 #include "iso5167/iso5167.h"
 #include "plataforma/controles.h"
+#include "report/verifica_placa.h"
 
 #include <optional>
 #include <string>
@@ -25,6 +26,12 @@ struct FrmRelatorio {
     // its text lines are made where they are shown (its own tab, the data
     // sheet's second page), not by every run. None before the first run.
     std::optional<ResultadoIso> iso;
+    // The same run's point with the user's flow and pressure units, for a
+    // rating of an existing plate; none before the first run.
+    std::optional<PontoDeProjeto> pontoIso;
+    // The last rating made in the check's tab, for its printed page; each
+    // run drops it, as it rated another point.
+    std::optional<VerificacaoFeita> verificacao;
     // The calculation's Tag and file name as the run found them, for the
     // check's printed page, which must be matched to its plate.
     std::string Tag, Arquivo;

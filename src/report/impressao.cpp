@@ -3,7 +3,9 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/falha.h"
 #include "report/frm_relatorio.h"
+#include "report/graficos_verificacao.h"
 #include "report/linhas_iso.h"
+#include "report/linhas_verificacao.h"
 #include "base/mod_base.h"
 
 #include <new>
@@ -54,11 +56,25 @@ void SegundaPagina(const FrmRelatorio& r) {
     Linha();
     for (const std::string& l : CorpoIso5167(*r.iso))
         Linha({{ColunaTexto, l}});
+    // The rating of an existing plate made in the check's tab, with its
+    // pictures where it applies.
+    if (!r.verificacao || !r.pontoIso) return;
+    Linha();
+    for (const std::string& l : LinhasVerificacao(*r.verificacao, *r.pontoIso))
+        Linha({{ColunaTexto, l}});
+    if (!r.verificacao->resultado.aplicavel) return;
+    Linha();
+    Printer().ImprimeGraficos(
+        {GraficoLimites(*r.verificacao), GraficoPressao(*r.verificacao, *r.pontoIso)}, ColunaTexto);
 }
 
 } // namespace
 
 void Impressora::NovaPagina() {
+    throw Falha(ErroImpressora);
+}
+
+void Impressora::ImprimeGraficos(const std::vector<Grafico>&, int) {
     throw Falha(ErroImpressora);
 }
 

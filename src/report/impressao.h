@@ -4,6 +4,7 @@
 #pragma once
 
 #include "plataforma/dialogos.h"
+#include "report/grafico.h"
 
 #include <string>
 #include <vector>
@@ -36,6 +37,10 @@ class Impressora {
     // NewPage: what follows begins at the top of a new sheet. A printer
     // that has no pages of its own fails.
     virtual void NovaPagina();
+    // Pictures side by side in one band, from the tab column to the right
+    // edge, below the last line; on a new sheet when the band doesn't fit.
+    // A printer that draws only text fails.
+    virtual void ImprimeGraficos(const std::vector<Grafico>& graficos, int coluna);
     // EndDoc: releases the job.
     virtual void FimDocumento() = 0;
 };

@@ -129,8 +129,72 @@ TEST_F(ShellLote, SecaoIsoDepoisDeCadaRelatorio) {
     EXPECT_EQ(semIso.erros, material + material);
 }
 
+// --verifica: each file's plate rated with the bore given. JSON with exactly
+// the rating's keys, numbers unrounded, against "agua.trl 61,83" of
+// tests/data/iso5167/verifica.py (python3-fluids); the file the standard
+// doesn't take and the file missing say why. Without --json, the section
+// after each report, the reports as they were.
+TEST_F(ShellLote, VerificaPlacaExistente) {
+    Saida s = Executa("--json --verifica 61,83 --faixa 10,50 " + Exemplo("agua.trl") + " " +
+                      Exemplo("vapor.trl") + " " + pasta / "falta.trl");
+    const auto j = nlohmann::json::parse(s.saida);
+    const auto& v = j[0]["verificacao"];
+    std::vector<std::string> chaves, chavesFaixa;
+    for (const auto& [k, x] : v.items()) chaves.push_back(k);
+    for (const auto& [k, x] : v["faixa"][0].items()) chavesFaixa.push_back(k);
+    EXPECT_EQ(chaves, (std::vector<std::string>{"aplicavel", "d_mm_20C", "d_mm_operacao", "faixa", "motivo",
+                                                "pressao_diferencial_Pa", "vazao_kg_h"}));
+    EXPECT_EQ(chavesFaixa, (std::vector<std::string>{"C", "ReD", "dentro_dos_limites", "epsilo",
+                                                     "incerteza_vazao_pct", "limites_fora",
+                                                     "pressao_diferencial_Pa", "vazao_kg_h", "vazao_pct"}));
+    EXPECT_TRUE(v["aplicavel"] == true && v["motivo"].is_null() && v["d_mm_20C"] == 61.83);
+    EXPECT_NEAR(v["vazao_kg_h"].get<double>(), 49984.5067934, 5e-6);
+    EXPECT_NEAR(v["pressao_diferencial_Pa"].get<double>(), 24915.1640812, 5e-6);
+    const struct {
+        double pct, dp, ReD, C, u;
+    } faixa[] = {{10, 239.144029579, 17258.473304, 0.621936356194, 0.5079269509},
+                 {50, 6183.09437262, 86292.3665198, 0.611565225798, 0.5079269509}};
+    ASSERT_EQ(v["faixa"].size(), 2u);
+    for (size_t i = 0; i < 2; ++i) {
+        const auto& p = v["faixa"][i];
+        EXPECT_EQ(p["vazao_pct"], faixa[i].pct);
+        EXPECT_NEAR(p["vazao_kg_h"].get<double>(), faixa[i].pct / 100 * 50 * 998, 1e-9);
+        EXPECT_NEAR(p["pressao_diferencial_Pa"].get<double>(), faixa[i].dp, 5e-8);
+        EXPECT_NEAR(p["ReD"].get<double>(), faixa[i].ReD, 5e-6);
+        EXPECT_NEAR(p["C"].get<double>(), faixa[i].C, 5e-12);
+        EXPECT_EQ(p["epsilo"], 1.0);
+        EXPECT_NEAR(p["incerteza_vazao_pct"].get<double>(), faixa[i].u, 5e-10);
+        EXPECT_TRUE(p["dentro_dos_limites"] == true && p["limites_fora"].empty());
+    }
+    for (const auto& [i, motivo] : {std::pair{1, "A ISO 5167-2 não prevê tomadas de vena contracta."},
+                                    std::pair{2, "O cálculo não foi concluído."}}) {
+        const auto& n = j[static_cast<size_t>(i)]["verificacao"];
+        EXPECT_TRUE(n["aplicavel"] == false && n["motivo"] == motivo && n["vazao_kg_h"].is_null() &&
+                    n["faixa"].empty())
+            << i;
+    }
+    EXPECT_FALSE(nlohmann::json::parse(Executa("--json " + Exemplo("agua.trl")).saida)[0].contains("verificacao"));
+
+    const std::string sem = Executa("--iso " + Exemplo("agua.trl")).saida;
+    const std::string com = Executa("--iso --verifica 61.83 --faixa 10,50 " + Exemplo("agua.trl")).saida;
+    ASSERT_EQ(com.rfind(sem, 0), 0u);
+    EXPECT_EQ(com.substr(sem.size()),
+              "\n Verificação de placa existente (ISO 5167-2:2003)\n\n"
+              " Diâmetro do orifício a 20 ºC _____ 61,83 mm\n"
+              " Diâmetro do orifício em operação _ 61,83 mm\n"
+              " Beta = d/D _______________________ 0,60464\n"
+              " Vazão na Δp de projeto ___________ 50,085 M³/h (49985 Kg/h)\n"
+              " Δp na vazão de projeto ___________ 24915 Pa\n"
+              " Incertezas de D, d, Δp e ρ1 ______ 0 / 0 / 0 / 0 %\n\n"
+              "   Vazão     Vazão        Δp       ReD         C Incerteza  Limites\n"
+              "       %      M³/h        Pa                             %\n"
+              "      10         5    239,14   17258,5  0,621936      0,51  dentro\n"
+              "      50        25    6183,1   86292,4  0,611565      0,51  dentro\n");
+}
+
 TEST_F(ShellLote, AjudaEErrosDeOpcaoEmPortugues) {
-    const std::string uso = "uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...\n"
+    const std::string uso = "uso: tramelo-calc [--json] [--sim] [--iso] [--verifica D_MM [--faixa "
+                            "P1,P2,...]] ARQUIVO.trl...\n"
                             "     tramelo-calc --propriedades P T [--json]\n"
                             "Use --help para mais informações.\n";
     struct Caso {
@@ -144,13 +208,20 @@ TEST_F(ShellLote, AjudaEErrosDeOpcaoEmPortugues) {
          "                      Saída em JSON: um objeto por arquivo\n  --sim                       Responde \"Sim\" "
          "a \"Deseja alterar o dados para cálculo?\" (o padrão é \"Não\")\n  --iso                       "
          "Acrescenta a cada relatório a verificação pela ISO 5167-2:2003\n  --propriedades P T          "
-         "Propriedades da água e do vapor pela IAPWS-IF97 a P kPa absolutos e T ºC, em vez de arquivos\n\n", ""},
+         "Propriedades da água e do vapor pela IAPWS-IF97 a P kPa absolutos e T ºC, em vez de arquivos\n  "
+         "--verifica D_MM             Verifica uma placa existente com este diâmetro do orifício a 20 ºC, "
+         "em mm\n  --faixa P1,P2,... Requer: --verifica\n" + std::string(30, ' ') +
+         "Porcentagens da vazão de projeto na verificação (padrão 10,25,50,75,100)\n\n", ""},
         {"", 64, "", "tramelo-calc: falta o argumento obrigatório ARQUIVO\n" + uso},
         {"--nada -x a.trl", 64, "", "tramelo-calc: argumentos não esperados: --nada -x\n" + uso},
         {"--json=talvez a.trl", 64, "", "tramelo-calc: valor não aceito em --json\n" + uso},
         {"--propriedades 1000", 64, "", "tramelo-calc: valor não aceito em --propriedades\n" + uso},
         {"--iso --propriedades 1000 250", 64, "",
-         "tramelo-calc: --propriedades não se usa com ARQUIVO, --sim nem --iso\n" + uso},
+         "tramelo-calc: --propriedades não se usa com ARQUIVO, --sim, --iso nem --verifica\n" + uso},
+        {"--faixa 10,50 a.trl", 64, "", "tramelo-calc: --faixa só vale com --verifica\n" + uso},
+        {"--verifica a.trl", 64, "", "tramelo-calc: valor não aceito em --verifica\n" + uso},
+        {"--verifica 60 --faixa 0,10 a.trl", 64, "", "tramelo-calc: valor não aceito em --faixa\n" + uso},
+        {"--verifica 60 --faixa 10,,50 a.trl", 64, "", "tramelo-calc: valor não aceito em --faixa\n" + uso},
     };
     for (const Caso& c : casos) {
         Saida s = Executa(c.argumentos);

@@ -467,6 +467,133 @@ TEST_F(Jornada, PropriedadesDoVaporAplicadasAoCalculo) {
     }
 }
 
+// An existing plate checked in the report's ISO tab: a bore typed wrong is
+// told and kept, a good one gives the table and both pictures, and the
+// print with the ISO page carries them. The screenshots stay in the
+// session's folder with TRAMELO_JORNADA_GUARDA=1.
+TEST_F(Jornada, VerificaPlacaExistenteEImprime) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    Botao("Calcular");
+    const std::string relatorio = "Relatório de Cálculo - agua.trl";
+    ASSERT_TRUE(x.Espera("frame", relatorio, 5000));
+    auto aba = x.Espera("page tab", "ISO 5167-2:2003", 5000);
+    ASSERT_TRUE(aba);
+    x.Clica(aba->cx(), aba->cy());
+    // The tab's page scrolls: an object is brought into its visible part by
+    // the wheel, as a person does, before it is touched or looked at.
+    auto NaVista = [&](const std::string& papel, const std::string& nome) -> std::optional<No> {
+        int passo = 0, antes = 0; // pixels a wheel's click moves, learned from the first
+        for (int vez = 0; vez < 12; ++vez) {
+            std::optional<No> janela, pagina, alvo;
+            for (const No& n : x.Arvore()) {
+                if (n.papel == "frame" && n.nome == relatorio) janela = n;
+                else if (janela && !pagina && n.papel == "layered pane" && n.nivel > janela->nivel)
+                    pagina = n;
+                if (pagina && n.visivel && n.papel == papel && n.nome == nome) alvo = n;
+            }
+            if (!alvo || !pagina) {
+                x.Pausa(100);
+                continue;
+            }
+            // Shown when all of it shows; one about as tall as the page or
+            // taller, when it fills the page but for a wheel's step.
+            const int visto = std::min(alvo->y + alvo->h, pagina->y + pagina->h) -
+                              std::max(alvo->y, pagina->y);
+            const int basta = alvo->h < pagina->h - 60 ? alvo->h : pagina->h - 60;
+            if (visto >= basta) return alvo;
+            if (vez > 0 && passo == 0) passo = std::abs(alvo->y - antes);
+            antes = alvo->y;
+            const int distancia = alvo->cy() - pagina->cy();
+            const int cliques = passo > 0 ? std::max(1, std::abs(distancia) / passo) : 1;
+            // No --sync: a pointer already there would never be seen arriving.
+            x.Comando("xdotool mousemove " + std::to_string(pagina->cx()) + " " +
+                      std::to_string(pagina->y + 8) + " sleep 0.1 click --repeat " +
+                      std::to_string(cliques) + " --delay 30 " + (distancia > 0 ? "5" : "4"));
+            x.Pausa(100);
+        }
+        return std::nullopt;
+    };
+    const std::string diametro = "Diâmetro do orifício a 20 ºC (mm)";
+    auto campo = NaVista("text", diametro);
+    ASSERT_TRUE(campo);
+    EXPECT_EQ(campo->texto, "61,83"); // Tramelo's bore, as its report prints it
+
+    // Letters: a box says so, and the bore is there to be typed again.
+    x.Clica(campo->cx(), campo->cy());
+    x.Tecla("ctrl+a");
+    x.Digita("6O");
+    auto verificar = NaVista("push button", "Verificar");
+    ASSERT_TRUE(verificar);
+    x.Clica(verificar->cx(), verificar->cy());
+    const std::string aviso =
+        "O diâmetro do orifício a 20 ºC tem que ser um número, em mm (por exemplo 61,83).";
+    ASSERT_TRUE(x.Espera("label", aviso, 5000));
+    x.Tecla("Return");
+    ASSERT_TRUE(x.EsperaSumir("label", aviso, 5000));
+    EXPECT_FALSE(x.Acha("table", "Tabela da verificação"));
+
+    // A 60 mm plate over a range that reaches below the least ReD.
+    campo = NaVista("text", diametro);
+    ASSERT_TRUE(campo);
+    x.Clica(campo->cx(), campo->cy());
+    x.Tecla("ctrl+a");
+    x.Digita("60");
+    auto faixa = NaVista("text", "Vazões (% da vazão de projeto)");
+    ASSERT_TRUE(faixa);
+    x.Clica(faixa->cx(), faixa->cy());
+    x.Tecla("ctrl+a");
+    x.Digita("2; 10; 25; 50; 75; 100; 120");
+    x.Tecla("Return");
+    auto tabela = NaVista("table", "Tabela da verificação");
+    ASSERT_TRUE(tabela);
+    x.Captura(x.Caminho("verificacao-1-tabela.png"));
+    int linhas = 0, fora = 0;
+    for (const No& n : x.Arvore()) {
+        linhas += n.papel == "table cell" && n.nome == "dentro";
+        fora += n.papel == "table cell" && n.nome == "ReD";
+    }
+    EXPECT_EQ(linhas, 6);
+    EXPECT_EQ(fora, 1); // 2 %: ReD 3452 against 170 β² D = 170 · 60² / 102,26 = 5985
+    int capturas = 1;
+    for (const std::string figura :
+         {"Limites de uso (ISO 5167-2, 5.3.1) - Flange Taps", "Pressão diferencial × vazão"}) {
+        auto f = NaVista("chart", figura);
+        ASSERT_TRUE(f) << figura;
+        EXPECT_GT(f->w, 200) << figura;
+        EXPECT_GT(f->h, 150) << figura;
+        x.Captura(x.Caminho("verificacao-" + std::to_string(++capturas) + "-figura.png"));
+    }
+
+    // Printed with the ISO page: the rating's table and both pictures on it.
+    const std::string pdf = x.Caminho("arquivos/verificacao.pdf");
+    Botao("Imprimir");
+    Botao("Opções >>");
+    auto abaIso = x.Espera("page tab", "ISO 5167-2", 5000);
+    ASSERT_TRUE(abaIso);
+    x.Clica(abaIso->cx(), abaIso->cy());
+    auto segunda = x.Espera(
+        "check box", "Imprimir a verificação pela ISO 5167-2:2003 como segunda página", 5000);
+    ASSERT_TRUE(segunda);
+    x.Clica(segunda->cx(), segunda->cy());
+    auto saida = x.Espera("text", "Arquivo de saída:", 8000);
+    ASSERT_TRUE(saida);
+    x.Clica(saida->cx(), saida->cy());
+    x.Tecla("ctrl+a");
+    x.Digita(pdf);
+    x.Tecla("Return");
+    for (int i = 0; i < 50 && !fs::exists(pdf); ++i) x.Pausa(100);
+    ASSERT_TRUE(fs::exists(pdf));
+    x.Pausa(500);
+    const std::string texto = x.Comando("pdftotext -layout '" + pdf + "' - 2>/dev/null");
+    for (const std::string parte :
+         {"Verificação de placa existente (ISO 5167-2:2003)", "ReD abaixo do limite a 2 % da vazão",
+          "Limites de uso (ISO 5167-2, 5.3.1) - Flange Taps", "Pressão diferencial × vazão",
+          "Vazão de projeto", "Ponto de projeto"})
+        EXPECT_NE(texto.find(parte), std::string::npos) << parte;
+    // Its pages as pictures, beside the screenshots.
+    x.Comando("pdftoppm -r 60 -png '" + pdf + "' '" + x.Caminho("pagina") + "'");
+}
+
 // The main window moved and resized, then the exit: the next start is at the
 // same place and size. A second start hands its file to the running program.
 TEST_F(Jornada, SaiComJanelaMovidaEVoltaNoMesmoLugar) {

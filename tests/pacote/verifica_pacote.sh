@@ -98,7 +98,7 @@ echo "$ajuda" | grep -q '^Uso: tramelo-calc \[OPÇÕES\] \[ARQUIVO' || falha "aj
 echo "$ajuda" | grep -Eq 'Usage|Positionals|Options|Print this|REQUIRED' && falha "ajuda em inglês: $ajuda"
 erro=$("$tmp/raiz/usr/bin/tramelo-calc" --nada x.trl 2>&1 > /dev/null) && falha "opção desconhecida aceita"
 [ "$erro" = "tramelo-calc: argumento não esperado: --nada
-uso: tramelo-calc [--json] [--sim] [--iso] ARQUIVO.trl...
+uso: tramelo-calc [--json] [--sim] [--iso] [--verifica D_MM [--faixa P1,P2,...]] ARQUIVO.trl...
      tramelo-calc --propriedades P T [--json]
 Use --help para mais informações." ] || falha "erro de opção: $erro"
 

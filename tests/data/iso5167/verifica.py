@@ -95,6 +95,16 @@ CASOS = [
      (0, 0, 0, 0), [10]),
 ]
 
+# The sample files as tramelo-calc --verifica rates them: data/exemplos/agua.trl
+# (50 M3/h of water at 998 kg/m3, 1 cP, D 102,26 mm, 25000 Pa, flange taps,
+# stainless at 20 C so the area factor is 1) with Tramelo's own bore as its
+# report prints it, 61,83 mm, and no uncertainty given. The flow in the file's
+# own unit is the mass flow over the density.
+AMOSTRAS = [
+    ("agua.trl 61,83", 0, 1, 50 * 998 / 3600, 998, 0.001, 102.26, 25000, 0, 0, 61.83, 1.0,
+     (0, 0, 0, 0), [10, 50], 998),
+]
+
 if __name__ == "__main__":
     # One line per case: its name and the flow at the design differential
     # pressure, kg/h; then one per flow, the design flow's first:
@@ -102,6 +112,14 @@ if __name__ == "__main__":
     for nome, *a in CASOS:
         m, pontos = caso(*a)
         print(f'"{nome}", {m:.12g},')
+        for pct, dp, re, C, e, u, f in pontos:
+            nomes = ", ".join(f'"{n}"' for n in f)
+            print(f"  {{{pct:g}, {dp:.12g}, {re:.12g}, {C:.12g}, {e:.12g}, {u:.10g}, {{{nomes}}}}},")
+    # The samples: name, flow at the design dp in kg/h and in M3/h, then the
+    # flows as above.
+    for nome, *a, rho_leitura in AMOSTRAS:
+        m, pontos = caso(*a)
+        print(f'"{nome}", {m:.12g}, {m / rho_leitura:.12g},')
         for pct, dp, re, C, e, u, f in pontos:
             nomes = ", ".join(f'"{n}"' for n in f)
             print(f"  {{{pct:g}, {dp:.12g}, {re:.12g}, {C:.12g}, {e:.12g}, {u:.10g}, {{{nomes}}}}},")
