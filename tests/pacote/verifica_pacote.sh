@@ -50,6 +50,7 @@ usr/share/tramelo/manual/metodo.html
 usr/share/tramelo/manual/primeiros-passos.html
 usr/share/tramelo/manual/propriedades.html
 usr/share/tramelo/manual/relatorio.html
+usr/share/tramelo/manual/verificacao.html
 LISTA
 diff -u "$tmp/esperados" "$tmp/arquivos" || falha "arquivos do pacote"
 dpkg-deb -c "$deb" | awk '{print $2}' | grep -qv '^root/root$' && falha "arquivo que não é de root"
