@@ -22,6 +22,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -146,9 +147,13 @@ MdiMenuView::MdiMenuView() {
     AtualizaRecentes();
     SincronizaFrame();
     notificador().Inscreve(this);
+    // A text field claims Ctrl+A (select all) and others before the menus
+    // see them; the menus' keys are looked at here first.
+    qApp->installEventFilter(this);
 }
 
 MdiMenuView::~MdiMenuView() {
+    qApp->removeEventFilter(this);
     notificador().Desinscreve(this);
     disconnect(area_, nullptr, this, nullptr);
     if (janelasCalculo() == this) janelasCalculo() = nullptr;
@@ -341,6 +346,14 @@ void MdiMenuView::SincronizaFrame() {
                            static_cast<QWidget*>(tbPadrao_), static_cast<QWidget*>(tbCalculo_),
                            static_cast<QWidget*>(statusBar())})
         parte->setEnabled(m.Enabled);
+    // A child activated while the frame was busy (the toolbar's "Novo")
+    // couldn't take the focus then: it takes it now, as its activation
+    // would have given it.
+    QMdiSubWindow* ativa = area_->activeSubWindow();
+    if (m.Enabled && !std::exchange(habilitado_, true) && ativa && isActiveWindow() &&
+        !ativa->isAncestorOf(QApplication::focusWidget()))
+        ativa->setFocus(Qt::OtherFocusReason);
+    habilitado_ = m.Enabled;
 }
 
 void MdiMenuView::AplicaMudancas() {
@@ -424,6 +437,21 @@ void MdiMenuView::changeEvent(QEvent* e) {
 }
 
 bool MdiMenuView::eventFilter(QObject* objeto, QEvent* evento) {
+    // A menu's key pressed in a field of this window is the menu's: the
+    // field's claim is refused, and the shortcut runs.
+    if (evento->type() == QEvent::ShortcutOverride) {
+        auto* w = qobject_cast<QWidget*>(objeto);
+        auto* e = static_cast<QKeyEvent*>(evento);
+        const QKeySequence tecla(
+            QKeyCombination(e->modifiers() & ~Qt::KeypadModifier, Qt::Key(e->key())));
+        if (w && w->window() == this)
+            for (QAction* a : atalhos_)
+                if (a->isEnabled() && a->shortcut() == tecla) {
+                    e->ignore();
+                    return true;
+                }
+        return false;
+    }
     // The right button on a bar opens the bars menu at the pointer.
     if (evento->type() == QEvent::ContextMenu &&
         (objeto == tbPadrao_ || objeto == tbCalculo_ || objeto == statusBar())) {
@@ -477,7 +505,10 @@ void MdiMenuView::ConstroiMenus() {
     auto item = [this](QMenu* menu, const QString& texto, std::function<void()> acao,
                        const QKeySequence& tecla = {}) {
         QAction* a = menu->addAction(texto);
-        if (!tecla.isEmpty()) a->setShortcut(tecla);
+        if (!tecla.isEmpty()) {
+            a->setShortcut(tecla);
+            atalhos_.push_back(a);
+        }
         // Run once the menu has closed: a box shown under an open menu
         // leaves the bar dead to the mouse and the keys.
         if (acao)
