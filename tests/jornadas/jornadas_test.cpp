@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cctype>
 #include <filesystem>
 #include <fstream>
@@ -78,6 +79,14 @@ class Jornada : public ::testing::Test {
         x.Digita(caminho);
         x.Tecla("Return");
         ASSERT_TRUE(x.EsperaSumir("dialog", titulo, 5000)) << titulo;
+    }
+
+    // The tip of the day, at a start with no file, has the keys at once:
+    // Enter and Escape are its OK.
+    void FechaDica(const std::string& tecla) {
+        ASSERT_TRUE(x.Espera("label", "Você sabia...", 8000));
+        x.Tecla(tecla);
+        ASSERT_TRUE(x.EsperaSumir("label", "Você sabia...", 5000)) << tecla;
     }
 
     // The close button drawn in the title bar of a child window.
@@ -171,6 +180,17 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
     ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
     auto campo = x.Espera("text", "Vazão de projeto", 5000);
     ASSERT_TRUE(campo);
+    // A key held down acts once, on its release, whatever the server's
+    // autorepeat sends meanwhile: held three seconds, as Qt itself catches
+    // most of the repeats and only a few in a second slip past it.
+    x.DuploClique(campo->cx(), campo->cy());
+    ASSERT_TRUE(x.Espera("label", "50,", 5000));
+    x.Comando("xdotool keydown 5");
+    x.Pausa(3000);
+    x.Comando("xdotool keyup 5");
+    EXPECT_TRUE(x.Espera("label", "505,", 3000));
+    x.Clica(campo->x - 20, campo->cy());
+    ASSERT_TRUE(x.EsperaSumir("label", "505,", 5000));
     int valor = 50;
     for (const std::string modo : {"duplo clique", "botão", "Enter"}) {
         SCOPED_TRACE(modo);
@@ -215,7 +235,7 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
     // says so, and leaves the field as it is.
     x.Comando("printf 7/2 | xclip -selection clipboard > /dev/null 2>&1");
     x.Clica(campo->cx(), campo->cy());
-    x.Tecla("ctrl+a ctrl+v");
+    x.Tecla("Home shift+End ctrl+v");
     x.DuploClique(campo->cx(), campo->cy());
     ASSERT_TRUE(x.Espera("push button", "OK", 5000));
     EXPECT_NE(x.Comando("xdotool search --name 'Código :13'"), "");
@@ -223,11 +243,11 @@ TEST_F(Jornada, CalculadoraDivisaoPorZeroSegueEEscreve) {
     ASSERT_TRUE(x.EsperaSumir("push button", "OK", 5000));
     EXPECT_EQ(x.Espera("text", "Vazão de projeto", 3000)->texto, "7/2");
     x.Clica(campo->cx(), campo->cy());
-    x.Tecla("ctrl+a");
+    x.Tecla("Home shift+End");
     x.Digita("56");
     // The field's text, read back as a person would: copied.
     x.Clica(campo->cx(), campo->cy());
-    x.Tecla("ctrl+a ctrl+c");
+    x.Tecla("Home shift+End ctrl+c");
     EXPECT_EQ(x.AreaDeTransferencia(), "56");
 }
 
@@ -241,7 +261,7 @@ TEST_F(Jornada, FecharTodosPerguntaECadaRespostaValeOQueDiz) {
         auto campo = x.Espera("text", "Vazão de projeto", 5000);
         ASSERT_TRUE(campo);
         x.Clica(campo->cx(), campo->cy());
-        x.Tecla("ctrl+a");
+        x.Tecla("Home shift+End");
         x.Digita(vazao);
         Menu({"&Arquivo", "Fechar &todos"}, "Return");
         ASSERT_TRUE(x.Espera("label", pergunta, 5000));
@@ -308,7 +328,12 @@ TEST_F(Jornada, TabelasDicasOpcoesESobre) {
     fs::permissions(x.Caminho("bin/xdg-open"), fs::perms::owner_all);
     setenv("PATH", (x.Caminho("bin") + ":" + std::getenv("PATH")).c_str(), 1);
     ASSERT_TRUE(x.Inicia());
-    Botao("OK"); // the tip of the day, at a start with no file
+    ASSERT_NO_FATAL_FAILURE(FechaDica("Return"));
+    // The program's own icon on its window, not the window manager's.
+    EXPECT_NE(x.Comando("xprop -id \"$(xdotool search --onlyvisible --name '^Tramelo$' | head -1)\" "
+                        "_NET_WM_ICON | head -c 100")
+                  .find("CARDINAL"),
+              std::string::npos);
     for (const std::string tabela : {"&Massa do Vapor Superaquecido", "&Volume do Vapor Superaquecido"}) {
         Menu({"Aj&uda", "D&ocumentação", tabela});
         const std::string titulo = tabela[1] == 'M' ? "Massa específica do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)\"  " : "Volume específico do vapor superaquecido - Pressão (kgf/cm2) / Temperatura (ºC)";
@@ -374,14 +399,14 @@ TEST_F(Jornada, SaiComJanelaMovidaEVoltaNoMesmoLugar) {
     const std::string janela = "xdotool search --onlyvisible --name '^Tramelo$' ";
     auto geometria = [&] { return x.Comando(janela + "getwindowgeometry %1"); };
     ASSERT_TRUE(x.Inicia());
-    Botao("OK"); // the tip of the day, at a start with no file
+    ASSERT_NO_FATAL_FAILURE(FechaDica("Escape"));
     x.Comando(janela + "windowmove %1 150 120 windowsize %1 800 640");
     x.Pausa(500);
     const std::string antes = geometria();
     Menu({"&Arquivo", "Sai&r"});
     ASSERT_EQ(x.Espera(10000), 0) << x.Saida();
     ASSERT_TRUE(x.Inicia());
-    Botao("OK"); // the tip of the day, at a start with no file
+    ASSERT_NO_FATAL_FAILURE(FechaDica("Return"));
     x.Pausa(500);
     EXPECT_EQ(geometria(), antes);
 
@@ -391,6 +416,83 @@ TEST_F(Jornada, SaiComJanelaMovidaEVoltaNoMesmoLugar) {
                                           Exemplo("vapor.trl") + "' > /dev/null 2>&1; echo $?");
     EXPECT_EQ(segunda, "0\n");
     EXPECT_TRUE(x.Espera("frame", "vapor.trl", 8000));
+}
+
+// Ctrl+C in the terminal the program was started from, and that terminal
+// closed, end it as "Sair" does: the next start has the run's recent file,
+// its bars and its place.
+TEST_F(Jornada, CtrlCETerminalFechadoSaemComoSair) {
+    const std::string janela = "xdotool search --onlyvisible --name '^Tramelo$' ";
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    ASSERT_TRUE(x.Acha("status bar", ""));
+    Menu({"E&xibir", "Barra de &status"});
+    ASSERT_TRUE(x.EsperaSumir("status bar", "", 5000));
+    x.Sinaliza(SIGHUP);
+    ASSERT_EQ(x.Espera(10000), 0) << x.Saida();
+    ASSERT_TRUE(x.Inicia());
+    ASSERT_NO_FATAL_FAILURE(FechaDica("Escape"));
+    EXPECT_FALSE(x.Acha("status bar", ""));
+    Menu({"&Arquivo", "Arquivos recentes"});
+    bool recente = false;
+    for (const No& n : x.Arvore())
+        recente |= n.visivel && n.papel == "menu item" && n.nome.rfind("1 ", 0) == 0 &&
+                   n.nome.find("agua.trl") != std::string::npos;
+    EXPECT_TRUE(recente);
+    x.Tecla("Escape Escape");
+    x.Comando(janela + "windowmove %1 130 90");
+    x.Pausa(500);
+    const std::string antes = x.Comando(janela + "getwindowgeometry %1");
+    x.Sinaliza(SIGINT);
+    ASSERT_EQ(x.Espera(10000), 0) << x.Saida();
+    ASSERT_TRUE(x.Inicia());
+    ASSERT_NO_FATAL_FAILURE(FechaDica("Return"));
+    EXPECT_EQ(x.Comando(janela + "getwindowgeometry %1"), antes);
+}
+
+// The menus' keys win over the text fields' own: in the tag, Ctrl+A opens a
+// calculation and Ctrl+B saves; in the report's header, Ctrl+A opens, Ctrl+P
+// prints and Ctrl+O makes a new calculation. A new calculation from the
+// toolbar's "Novo" has the keys, as one from the menu has.
+TEST_F(Jornada, AtalhosDoMenuVencemOsCamposENovoTemAsTeclas) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    auto Dialogo = [this](const std::string& tecla, const std::string& titulo) {
+        x.Tecla(tecla);
+        ASSERT_TRUE(x.Espera("dialog", titulo, 5000)) << tecla;
+        x.Tecla("Escape");
+        ASSERT_TRUE(x.EsperaSumir("dialog", titulo, 5000)) << tecla;
+    };
+    auto tag = x.Espera("text", "Tag", 5000);
+    ASSERT_TRUE(tag);
+    x.Clica(tag->cx(), tag->cy());
+    ASSERT_NO_FATAL_FAILURE(Dialogo("ctrl+a", "Abrir Tramelo"));
+    x.Clica(tag->cx(), tag->cy());
+    x.Tecla("End");
+    x.Digita("B");
+    x.Tecla("ctrl+b");
+    for (int vez = 0; vez < 30 && !fs::exists(x.Caminho("bin/Saves/agua.trl")); ++vez) x.Pausa(100);
+    EXPECT_TRUE(fs::exists(x.Caminho("bin/Saves/agua.trl")));
+
+    Botao("Calcular");
+    ASSERT_TRUE(x.Espera("frame", "Relatório de Cálculo - agua.trl", 5000));
+    x.Pausa(500); // the focus stands in the report's "Cliente"
+    ASSERT_NO_FATAL_FAILURE(Dialogo("ctrl+a", "Abrir Tramelo"));
+    ASSERT_NO_FATAL_FAILURE(Dialogo("ctrl+p", "Imprimir"));
+    x.Tecla("ctrl+o");
+    ASSERT_TRUE(x.Espera("frame", "Cálculo 1", 5000));
+
+    Botao("Novo");
+    ASSERT_TRUE(x.Espera("frame", "Cálculo 2", 5000));
+    // Down on the first list, the orifice kind, chooses its first item.
+    auto escolhidos = [this] {
+        int n = 0;
+        for (const No& no : x.Arvore())
+            n += no.visivel && no.papel == "combo box" && no.nome == "Placa de orifício";
+        return n;
+    };
+    const int antes = escolhidos();
+    x.Tecla("Down");
+    for (int vez = 0; vez < 20 && escolhidos() == antes; ++vez) x.Pausa(100);
+    EXPECT_EQ(escolhidos(), antes + 1);
 }
 
 } // namespace
