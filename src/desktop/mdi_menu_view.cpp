@@ -27,6 +27,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTimer>
@@ -450,6 +451,25 @@ bool MdiMenuView::eventFilter(QObject* objeto, QEvent* evento) {
                     e->ignore();
                     return true;
                 }
+        return false;
+    }
+    // A child's title bar takes a press on a button only if a move of the
+    // pointer told it the button is there, and it reads the buttons' places
+    // from a map it renews 200 ms after the window last changed size. A
+    // window that came up under a resting hand (a table opened again, a
+    // report shown again) or that has just changed size took the press for
+    // a move of the window, and a click on its close box only activated it.
+    // The map and the pointer's place on it are renewed before the press.
+    if (evento->type() == QEvent::MouseButtonPress) {
+        auto* j = qobject_cast<QMdiSubWindow*>(objeto);
+        auto* m = static_cast<QMouseEvent*>(evento);
+        if (j && j->parentWidget() == area_->viewport() && m->button() == Qt::LeftButton) {
+            QEvent renova(QEvent::LayoutRequest);
+            QCoreApplication::sendEvent(j, &renova);
+            QMouseEvent aqui(QEvent::MouseMove, m->position(), m->scenePosition(),
+                             m->globalPosition(), Qt::NoButton, Qt::NoButton, m->modifiers());
+            QCoreApplication::sendEvent(j, &aqui);
+        }
         return false;
     }
     // The right button on a bar opens the bars menu at the pointer.
