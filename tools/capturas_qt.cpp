@@ -138,6 +138,16 @@ int main(int argc, char** argv) {
         abas->setCurrentIndex(1);
         Captura(&programa.janela(), "04-relatorio-iso");
         abas->setCurrentIndex(0);
+        // Made larger by the user: the list takes the room.
+        QWidget* janela = abas;
+        while (janela && !qobject_cast<QMdiSubWindow*>(janela))
+            janela = janela->parentWidget();
+        if (janela) {
+            const QSize antes = janela->size();
+            janela->resize(antes + QSize(150, 200));
+            Captura(&programa.janela(), "04-relatorio-maior");
+            janela->resize(antes);
+        }
     }
 
     for (int i = 0; i < 2; ++i) {

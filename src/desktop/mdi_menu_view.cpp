@@ -70,6 +70,14 @@ Qt::WindowFlags FlagsFilho() {
            Qt::MSWindowsFixedSizeDialogHint;
 }
 
+Qt::WindowFlags FlagsRelatorio() {
+    // A report is read more than ten lines at a time: it can be made larger
+    // and maximised.
+    return Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+           Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint |
+           Qt::WindowCloseButtonHint;
+}
+
 } // namespace
 
 MdiMenuView::MdiMenuView() {
@@ -77,6 +85,9 @@ MdiMenuView::MdiMenuView() {
     area_ = new QMdiArea(this);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // A maximised report doesn't make the fixed calculation windows
+    // maximised as they come to the front.
+    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     setCentralWidget(area_);
     connect(area_, &QMdiArea::subWindowActivated, this, &MdiMenuView::AoAtivar);
 
@@ -213,7 +224,7 @@ void MdiMenuView::Carregada(FrmCalcTramelo& f) {
     QMdiSubWindow* jc = area_->addSubWindow(vc, FlagsFilho());
     jc->setWindowIcon(QApplication::windowIcon());
     auto* vr = new RelatorioView(*f.Relatorio);
-    QMdiSubWindow* jr = area_->addSubWindow(vr, FlagsFilho());
+    QMdiSubWindow* jr = area_->addSubWindow(vr, FlagsRelatorio());
     // The area marks the windows it makes delete-on-close; these two live
     // until the record unloads them, a close by the user only asks.
     for (QMdiSubWindow* j : {jc, jr}) {
@@ -390,9 +401,13 @@ void MdiMenuView::SincronizaPar(Par& p, bool calculo, bool relatorio) {
     p.janelaRelatorio->setWindowTitle(Q(r.Caption));
     const int ordem = p.janelaRelatorio->property("ordemZ").toInt();
     if (r.Visible && (p.janelaRelatorio->isHidden() || ordem != r.ordemZ)) {
-        // Shown and brought to the front by "Calcular".
+        // Shown and brought to the front by "Calcular"; at its built size
+        // the first time, afterwards at the size the user left it.
         p.janelaRelatorio->setProperty("ordemZ", r.ordemZ);
-        p.janelaRelatorio->adjustSize();
+        if (!p.janelaRelatorio->property("mostrada").toBool()) {
+            p.janelaRelatorio->setProperty("mostrada", true);
+            p.janelaRelatorio->adjustSize();
+        }
         p.janelaRelatorio->show();
         p.janelaRelatorio->raise();
         QMetaObject::invokeMethod(

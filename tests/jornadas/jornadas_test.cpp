@@ -102,7 +102,8 @@ class Jornada : public ::testing::Test {
 
 // The calculation and its report switched, minimised, closed and shown again
 // through the "Janela" menu, which lists them with the active one checked;
-// the report closed by its own title bar comes back with "Calcular".
+// the report closed by its own title bar comes back with "Calcular", and
+// maximised it gives its list the room.
 TEST_F(Jornada, JanelasPeloMenuJanela) {
     ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
     const std::string calculo = "agua.trl", relatorio = "Relatório de Cálculo - agua.trl";
@@ -133,7 +134,7 @@ TEST_F(Jornada, JanelasPeloMenuJanela) {
     EXPECT_TRUE(e->marcado);
     x.Tecla("Escape Escape");
     // The report minimised by its title bar, and brought back by the menu.
-    x.Clica(r->x + r->w - 32, r->y + 11);
+    x.Clica(r->x + r->w - 54, r->y + 11);
     x.Pausa(500);
     auto minimizado = x.Espera("frame", relatorio, 3000);
     ASSERT_TRUE(minimizado);
@@ -160,6 +161,12 @@ TEST_F(Jornada, JanelasPeloMenuJanela) {
     }
     EXPECT_TRUE(Entrada(relatorio));
     x.Tecla("Escape Escape");
+    // Maximised by its title bar's box, the report gives the room to its
+    // list.
+    const int linhas = x.Acha("list", "")->h;
+    x.Clica(devolvido->x + devolvido->w - 32, devolvido->y + 11);
+    for (int vez = 0; vez < 30 && x.Acha("list", "")->h < linhas + 100; ++vez) x.Pausa(100);
+    EXPECT_GT(x.Acha("list", "")->h, linhas + 100);
 }
 
 // The calculator on the flow field takes a division by zero: the box says so
