@@ -28,12 +28,15 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace tramelo {
@@ -52,13 +55,45 @@ QIcon Icone(const char* tema, QStyle::StandardPixmap reserva) {
     return i.isNull() ? QApplication::style()->standardIcon(reserva) : i;
 }
 
+// A desk calculator drawn at each size: the style's stand-in for a missing
+// theme icon is a 16-pixel computer, smaller than its neighbours, and its
+// label then sits higher than theirs.
+QIcon IconeCalculadora() {
+    QIcon icone;
+    for (int lado : {16, 22, 24, 32, 48, 64}) {
+        QPixmap p(lado, lado);
+        p.fill(Qt::transparent);
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        const double u = lado / 24.0;
+        const QRectF corpo(4 * u, 1.5 * u, 16 * u, 21 * u);
+        g.setPen(QPen(QColor(0x2e, 0x34, 0x36), std::max(1.0, u)));
+        g.setBrush(QColor(0x55, 0x57, 0x53));
+        g.drawRoundedRect(corpo, 2 * u, 2 * u);
+        g.setPen(Qt::NoPen);
+        g.setBrush(QColor(0xd3, 0xe8, 0xc8));
+        g.drawRect(QRectF(6 * u, 3.5 * u, 12 * u, 5 * u));
+        for (int linha = 0; linha < 4; ++linha)
+            for (int coluna = 0; coluna < 3; ++coluna) {
+                g.setBrush(coluna == 2 && linha > 1 ? QColor(0xf5, 0x79, 0x00) : QColor(0xee, 0xee, 0xec));
+                g.drawRect(QRectF((6 + coluna * 4.3) * u, (10.5 + linha * 2.9) * u, 3.1 * u, 2.1 * u));
+            }
+        g.end();
+        icone.addPixmap(p);
+    }
+    return icone;
+}
+
 QIcon IconeDoBotao(const std::string& key) {
     if (key == "Novo") return Icone("document-new", QStyle::SP_FileIcon);
     if (key == "Abrir") return Icone("document-open", QStyle::SP_DialogOpenButton);
     if (key == "Salvar") return Icone("document-save", QStyle::SP_DialogSaveButton);
     if (key == "Sair") return Icone("application-exit", QStyle::SP_DialogCloseButton);
     if (key == "Calcular") return Icone("system-run", QStyle::SP_MediaPlay);
-    if (key == "Calculadora") return Icone("accessories-calculator", QStyle::SP_ComputerIcon);
+    if (key == "Calculadora") {
+        QIcon i = QIcon::fromTheme(QStringLiteral("accessories-calculator"));
+        return i.isNull() ? IconeCalculadora() : i;
+    }
     if (key == "Imprimir") return Icone("document-print", QStyle::SP_FileDialogDetailedView);
     return Icone("document-export", QStyle::SP_FileDialogContentsView);
 }
