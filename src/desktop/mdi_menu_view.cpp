@@ -522,6 +522,13 @@ bool MdiMenuView::eventFilter(QObject* objeto, QEvent* evento) {
         }
         return false;
     }
+    // The work area shrinks when bars come back (or the frame is made
+    // smaller): children placed while it was larger would hang past its
+    // edges behind scroll bars.
+    if (evento->type() == QEvent::Resize && objeto == area_->viewport()) {
+        QMetaObject::invokeMethod(this, &MdiMenuView::RecolheFilhos, Qt::QueuedConnection);
+        return false;
+    }
     // The right button on a bar opens the bars menu at the pointer.
     if (evento->type() == QEvent::ContextMenu &&
         (objeto == tbPadrao_ || objeto == tbCalculo_ || objeto == statusBar())) {
@@ -548,6 +555,18 @@ QMenu* MdiMenuView::MenuBarras() {
     menu->addSeparator();
     marca(m.mnuExibirEtiqueta, &mnuExibirEtiqueta_Click);
     return menu;
+}
+
+void MdiMenuView::RecolheFilhos() {
+    const QSize area = area_->viewport()->size();
+    for (QMdiSubWindow* j : area_->subWindowList()) {
+        if (j->isHidden() || j->isMaximized()) continue;
+        const QRect g = j->geometry();
+        // As far in as it fits; one larger than the area keeps its top left.
+        const int x = std::max(0, std::min(g.x(), area.width() - g.width()));
+        const int y = std::max(0, std::min(g.y(), area.height() - g.height()));
+        if (x != g.x() || y != g.y()) j->move(x, y);
+    }
 }
 
 void MdiMenuView::PreencheJanela(QMenu* menu) {

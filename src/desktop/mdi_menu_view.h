@@ -97,6 +97,8 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador
     Tipo TipoDe(QMdiSubWindow* janela, FrmCalcTramelo** calculo, FrmRelatorio** relatorio) const;
     void Acao(const std::function<void()>& acao);
     void PreencheJanela(QMenu* menu);
+    // The children brought back inside the work area after it shrank.
+    void RecolheFilhos();
     QMenu* MenuBarras();
 
     QMdiArea* area_;

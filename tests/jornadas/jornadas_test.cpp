@@ -505,5 +505,33 @@ TEST_F(Jornada, AtalhosDoMenuVencemOsCamposENovoTemAsTeclas) {
     EXPECT_EQ(escolhidos(), antes + 1);
 }
 
+// A calculation made while the toolbars were hidden is still inside the work
+// area when they come back: no window hangs past its edge, no scroll bars.
+TEST_F(Jornada, BarrasDeVoltaNaoEmpurramJanelasParaFora) {
+    ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
+    auto Barras = [this] {
+        for (const char* barra : {"Botões &padrão", "Barra de &calculo"})
+            Menu({"E&xibir", "&Barra de ferramentas", barra});
+    };
+    Barras();
+    ASSERT_TRUE(x.EsperaSumir("tool bar", "tbPadrao", 5000));
+    x.Tecla("ctrl+o");
+    ASSERT_TRUE(x.Espera("frame", "Cálculo 1", 5000));
+    Barras();
+    ASSERT_TRUE(x.Espera("tool bar", "tbPadrao", 5000));
+    x.Pausa(500);
+    std::optional<No> area, calculo;
+    bool barraDeRolagem = false;
+    for (const No& n : x.Arvore()) {
+        if (!n.visivel) continue;
+        if (n.papel == "layered pane") area = n;
+        if (n.papel == "frame" && n.nome == "Cálculo 1") calculo = n;
+        barraDeRolagem |= n.nivel == 3 && n.papel == "scroll bar";
+    }
+    ASSERT_TRUE(area && calculo);
+    EXPECT_LE(calculo->y + calculo->h, area->y + area->h);
+    EXPECT_FALSE(barraDeRolagem);
+}
+
 } // namespace
 } // namespace tramelo::teste
