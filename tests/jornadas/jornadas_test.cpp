@@ -376,8 +376,8 @@ TEST_F(Jornada, TabelasDicasOpcoesESobre) {
     x.Tecla("Escape");
 }
 
-// The report printed to a PDF and exported to a text file: both written,
-// with the report's lines.
+// The report printed to a PDF in two copies and exported to a text file:
+// both written, with the report's lines.
 TEST_F(Jornada, ImprimeEmPdfEExporta) {
     ASSERT_TRUE(x.Inicia({Exemplo("agua.trl")}));
     Botao("Calcular");
@@ -390,7 +390,15 @@ TEST_F(Jornada, ImprimeEmPdfEExporta) {
 
     const std::string pdf = x.Caminho("arquivos/folha.pdf");
     Botao("Imprimir");
-    auto saida = x.Espera("text", "Output file:", 8000);
+    ASSERT_TRUE(x.Espera("text", "Output file:", 8000));
+    // Two copies: the file has the data sheet twice.
+    Botao("Options >>");
+    auto copias = x.Espera("spin button", "Copies:", 5000);
+    ASSERT_TRUE(copias);
+    x.Clica(copias->cx(), copias->cy());
+    x.Tecla("ctrl+a");
+    x.Digita("2");
+    auto saida = x.Acha("text", "Output file:");
     ASSERT_TRUE(saida);
     x.Clica(saida->cx(), saida->cy());
     x.Tecla("ctrl+a");
@@ -400,7 +408,10 @@ TEST_F(Jornada, ImprimeEmPdfEExporta) {
     ASSERT_TRUE(fs::exists(pdf));
     x.Pausa(500);
     const std::string texto = x.Comando("pdftotext -layout '" + pdf + "' - 2>/dev/null");
-    EXPECT_NE(texto.find("Flange Taps"), std::string::npos) << texto;
+    const size_t primeira = texto.find("Flange Taps");
+    ASSERT_NE(primeira, std::string::npos) << texto;
+    EXPECT_NE(texto.find("Flange Taps", primeira + 1), std::string::npos) << texto;
+    EXPECT_NE(x.Comando("pdfinfo '" + pdf + "' 2>/dev/null").find("Pages:           2"), std::string::npos);
 }
 
 // The main window moved and resized, then the exit: the next start is at the
