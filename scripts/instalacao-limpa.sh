@@ -1,17 +1,73 @@
 #!/usr/bin/env bash
 # Installs the Debian package on a clean Debian 12 and checks it as a user
-# would: a bookworm system made by debootstrap from Debian's mirror, then
-# `apt-get install ./tramelo_*.deb` in it, then, as a plain user under Xvfb,
-# the menu entry's command starts the program, a .trl file opened through
-# xdg-open opens in it, and the user's data lands in the XDG folders.
+# would: a bookworm system made by debootstrap from the Debian mirror this
+# machine's apt already uses, then `apt-get install ./tramelo_*.deb` in it,
+# then, as a plain user under Xvfb, the menu entry's command starts the
+# program, a .trl file opened through xdg-open opens in it, and the user's
+# data lands in the XDG folders.
 #   sudo bash scripts/instalacao-limpa.sh [tramelo_X_arch.deb]
+#   bash scripts/instalacao-limpa.sh --espelho    # only says which mirror
 # Without a package it builds one from build/. The untouched system is kept
 # as build/limpa/bookworm.tar.gz, so a second run starts clean without
-# fetching it again; TRAMELO_ESPELHO chooses another mirror.
+# fetching it again; TRAMELO_ESPELHO chooses another mirror, and
+# TRAMELO_APT_ETC another folder of apt sources than /etc/apt.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+
+# The first source of bookworm packages in apt's own order: sources.list,
+# then sources.list.d, one-line ".list" files and deb822 ".sources" files
+# alike; comments, "deb-src" and disabled stanzas don't count, nor a suite
+# other than bookworm (its security and updates archives, other vendors).
+espelho_das_fontes() {
+  local etc=${TRAMELO_APT_ETC:-/etc/apt} f uri
+  local LC_ALL=C
+  for f in "$etc/sources.list" "$etc"/sources.list.d/*; do
+    [ -f "$f" ] || continue
+    case "$f" in
+      */sources.list | *.list)
+        uri=$(awk '{ sub(/#.*/, "") }
+             $1 == "deb" {
+               i = 2
+               if ($i ~ /^\[/) { while (i < NF && $i !~ /\]$/) i++; i++ }
+               if ($(i + 1) == "bookworm" && $i ~ /^(https?|ftp|file):/) { print $i; exit }
+             }' "$f") ;;
+      *.sources)
+        uri=$(awk 'BEGIN { RS = ""; FS = "\n" }
+             {
+               delete campo; nome = ""
+               for (k = 1; k <= NF; k++) {
+                 if ($k ~ /^[ \t]*#/) continue
+                 if ($k ~ /^[ \t]/) { if (nome != "") campo[nome] = campo[nome] " " $k; continue }
+                 p = index($k, ":")
+                 if (p == 0) continue
+                 nome = tolower(substr($k, 1, p - 1))
+                 campo[nome] = substr($k, p + 1)
+               }
+               if (tolower(campo["enabled"]) ~ /^[ \t]*no[ \t]*$/) next
+               if ((" " campo["types"] " ") !~ /[ \t]deb[ \t]/) next
+               if ((" " campo["suites"] " ") !~ /[ \t]bookworm[ \t]/) next
+               n = split(campo["uris"], uri, /[ \t]+/)
+               for (j = 1; j <= n; j++)
+                 if (uri[j] ~ /^(https?|ftp|file):/) { print uri[j]; exit }
+             }' "$f") ;;
+      *) uri= ;;
+    esac
+    if [ -n "$uri" ]; then
+      echo "$uri"
+      return 0
+    fi
+  done
+}
+
+if [ "${1:-}" = "--espelho" ]; then
+  espelho=${TRAMELO_ESPELHO:-$(espelho_das_fontes)}
+  [ -n "$espelho" ] || { echo "instalacao-limpa: nenhuma fonte de bookworm nas fontes do apt" >&2; exit 1; }
+  echo "$espelho"
+  exit 0
+fi
 [ "$(id -u)" -eq 0 ] || { echo "instalacao-limpa: precisa de root (debootstrap e chroot)" >&2; exit 2; }
-espelho=${TRAMELO_ESPELHO:-http://deb.debian.org/debian}
+espelho=${TRAMELO_ESPELHO:-$(espelho_das_fontes)}
+[ -n "$espelho" ] || { echo "instalacao-limpa: nenhuma fonte de bookworm nas fontes do apt (${TRAMELO_APT_ETC:-/etc/apt}); defina TRAMELO_ESPELHO" >&2; exit 2; }
 trabalho=$PWD/build/limpa
 mkdir -p "$trabalho"
 

@@ -152,6 +152,16 @@ int main(int argc, char** argv) {
             std::printf("%s\n", qPrintable(arquivo));
         }
         abas->setCurrentIndex(0);
+        // Made larger by the user: the list takes the room.
+        QWidget* janela = abas;
+        while (janela && !qobject_cast<QMdiSubWindow*>(janela))
+            janela = janela->parentWidget();
+        if (janela) {
+            const QSize antes = janela->size();
+            janela->resize(antes + QSize(150, 200));
+            Captura(&programa.janela(), "04-relatorio-maior");
+            janela->resize(antes);
+        }
     }
 
     for (int i = 0; i < 2; ++i) {

@@ -41,7 +41,16 @@ EncerramentoQt::EncerramentoQt(std::function<bool()> fecha, std::function<void()
         acao.sa_handler = AoSinal;
         sigemptyset(&acao.sa_mask);
         acao.sa_flags = SA_RESTART;
-        ::sigaction(SIGTERM, &acao, nullptr);
+        for (int sinal : {SIGTERM, SIGHUP, SIGINT}) {
+            Anterior antes{sinal, {}};
+            ::sigaction(sinal, nullptr, &antes.acao);
+            // Started under nohup, the hang-up was meant to pass unheard.
+            // An ignored SIGINT is only the shell's doing for a job started
+            // in the background, and Ctrl+C is then still meant to end it.
+            if (sinal == SIGHUP && antes.acao.sa_handler == SIG_IGN) continue;
+            ::sigaction(sinal, &acao, nullptr);
+            anteriores_.push_back(antes);
+        }
     }
     // Connected directly: the session waits for the answer inside the call.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &EncerramentoQt::FimDaSessao,
@@ -49,7 +58,8 @@ EncerramentoQt::EncerramentoQt(std::function<bool()> fecha, std::function<void()
 }
 
 EncerramentoQt::~EncerramentoQt() {
-    ::signal(SIGTERM, SIG_DFL);
+    for (const Anterior& a : anteriores_)
+        ::sigaction(a.sinal, &a.acao, nullptr);
     for (int& fd : canal)
         if (fd >= 0) {
             ::close(fd);

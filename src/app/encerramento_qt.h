@@ -1,11 +1,15 @@
-// The ways out that don't start at the program's own windows: a SIGTERM and
-// the end of the desktop session. Both take the road of the main window's
-// close: recent files, each unsaved calculation asked about, bars and place.
+// The ways out that don't start at the program's own windows: SIGTERM, SIGHUP
+// (the terminal it was started from closed), SIGINT (Ctrl+C in that
+// terminal) and the end of the desktop session. All take the road of the
+// main window's close: recent files, each unsaved calculation asked about,
+// bars and place.
 #pragma once
 
 #include <QObject>
 
+#include <csignal>
 #include <functional>
+#include <vector>
 
 class QSessionManager;
 
@@ -26,6 +30,12 @@ class EncerramentoQt : public QObject {
 
     std::function<bool()> fecha_;
     std::function<void()> guarda_;
+    // What each signal did before, given back at the end.
+    struct Anterior {
+        int sinal;
+        struct sigaction acao;
+    };
+    std::vector<Anterior> anteriores_;
 };
 
 } // namespace tramelo

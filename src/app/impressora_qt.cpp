@@ -23,9 +23,7 @@ constexpr double PontosGrafico = 7;
 
 ImpressoraQt::ImpressoraQt(QPrinter& impressora) : impressora_(impressora) {}
 
-ImpressoraQt::~ImpressoraQt() {
-    if (pintor_ && pintor_->isActive()) pintor_->end();
-}
+ImpressoraQt::~ImpressoraQt() = default;
 
 void ImpressoraQt::DefineCopias(int copias) {
     if (copias < 1) throw Falha(ValorInvalido, "Valor de propriedade inválido");
@@ -44,18 +42,13 @@ void ImpressoraQt::DefineFonte(const std::string& nome, int tamanho, bool negrit
     f.setStyleHint(fixo ? QFont::TypeWriter : QFont::SansSerif);
     if (fixo) f.setFixedPitch(true);
     fonte_ = f;
-    if (pintor_) pintor_->setFont(fonte_);
 }
 
-QPainter& ImpressoraQt::Pintor() {
-    if (!pintor_) pintor_ = std::make_unique<QPainter>();
-    if (!pintor_->isActive()) {
-        if (!pintor_->begin(&impressora_)) throw Falha(ErroImpressora);
-        pintor_->setFont(fonte_);
-        x_ = 0;
-        y_ = 0;
-    }
-    return *pintor_;
+void ImpressoraQt::Comeca() {
+    if (!paginas_.empty()) return;
+    paginas_.emplace_back();
+    x_ = 0;
+    y_ = 0;
 }
 
 double ImpressoraQt::AlturaLinha() const {
@@ -66,7 +59,7 @@ void ImpressoraQt::ConfereEspaco() {
     // A line that starts at the top goes there even when it is taller than
     // the page: nothing else could be done with it.
     if (y_ > 0 && y_ + AlturaLinha() > impressora_.height()) {
-        if (!impressora_.newPage()) throw Falha(ErroImpressora);
+        paginas_.emplace_back();
         y_ = 0;
     }
 }
@@ -77,7 +70,7 @@ void ImpressoraQt::ProximaLinha() {
 }
 
 void ImpressoraQt::ImprimeLinha(const std::vector<PecaLinha>& pecas) {
-    QPainter& p = Pintor();
+    Comeca();
     const QFontMetricsF m(fonte_, &impressora_);
     ConfereEspaco();
     for (const PecaLinha& peca : pecas) {
@@ -89,22 +82,24 @@ void ImpressoraQt::ImprimeLinha(const std::vector<PecaLinha>& pecas) {
             ConfereEspaco();
         }
         const QString texto = QString::fromStdString(peca.texto);
-        p.drawText(QPointF(coluna, y_ + m.ascent()), texto);
+        paginas_.back().textos.push_back({fonte_, QPointF(coluna, y_ + m.ascent()), texto});
         x_ = coluna + m.horizontalAdvance(texto);
     }
     ProximaLinha();
 }
 
 void ImpressoraQt::NovaPagina() {
-    Pintor();
-    if (!impressora_.newPage()) throw Falha(ErroImpressora);
+    Comeca();
+    paginas_.emplace_back();
     x_ = 0;
     y_ = 0;
 }
 
+// The pictures side by side from the column to the right edge, on the next
+// page when they don't fit under what is there.
 void ImpressoraQt::ImprimeGraficos(const std::vector<Grafico>& graficos, int coluna) {
     if (graficos.empty()) return;
-    QPainter& p = Pintor();
+    Comeca();
     const QFontMetricsF m(fonte_, &impressora_);
     const double esquerda = (std::max(coluna, 1) - 1) * m.averageCharWidth();
     const double vao = 2 * m.averageCharWidth();
@@ -112,23 +107,48 @@ void ImpressoraQt::ImprimeGraficos(const std::vector<Grafico>& graficos, int col
     const double largura = (impressora_.width() - esquerda - (n - 1) * vao) / n;
     const double altura = largura * ProporcaoGrafico;
     if (y_ > 0 && y_ + altura > impressora_.height()) {
-        if (!impressora_.newPage()) throw Falha(ErroImpressora);
+        paginas_.emplace_back();
         y_ = 0;
     }
     for (size_t i = 0; i < graficos.size(); ++i)
-        DesenhaGrafico(p, QRectF(esquerda + static_cast<double>(i) * (largura + vao), y_, largura, altura),
-                       graficos[i], PontosGrafico);
-    p.setFont(fonte_);
+        paginas_.back().figuras.push_back(
+            {QRectF(esquerda + static_cast<double>(i) * (largura + vao), y_, largura, altura), graficos[i]});
     x_ = 0;
     y_ += altura;
 }
 
+void ImpressoraQt::Desenha(QPainter& p, const Pagina& pagina) const {
+    for (const Texto& t : pagina.textos) {
+        p.setFont(t.fonte);
+        p.drawText(t.lugar, t.texto);
+    }
+    for (const Figura& f : pagina.figuras)
+        DesenhaGrafico(p, f.lugar, f.grafico, PontosGrafico);
+}
+
 void ImpressoraQt::FimDocumento() {
     // A job with nothing printed ends without a page.
-    if (!pintor_ || !pintor_->isActive()) return;
-    if (!pintor_->end()) throw Falha(ErroImpressora);
+    if (paginas_.empty()) return;
+    const std::vector<Pagina> paginas = std::move(paginas_);
+    paginas_.clear();
     x_ = 0;
     y_ = 0;
+    // A printer makes the copies itself; a PDF file gets each page again,
+    // whole copies one after the other when they are collated.
+    const int copias = impressora_.supportsMultipleCopies() ? 1 : std::max(1, impressora_.copyCount());
+    const bool agrupadas = impressora_.collateCopies();
+    std::vector<const Pagina*> ordem;
+    for (int c = 0; c < (agrupadas ? copias : 1); ++c)
+        for (const Pagina& pagina : paginas)
+            for (int v = 0; v < (agrupadas ? 1 : copias); ++v)
+                ordem.push_back(&pagina);
+    QPainter p;
+    if (!p.begin(&impressora_)) throw Falha(ErroImpressora);
+    for (size_t i = 0; i < ordem.size(); ++i) {
+        if (i > 0 && !impressora_.newPage()) throw Falha(ErroImpressora);
+        Desenha(p, *ordem[i]);
+    }
+    if (!p.end()) throw Falha(ErroImpressora);
 }
 
 } // namespace tramelo

@@ -38,6 +38,14 @@
 #include <QStandardPaths>
 #include <QTranslator>
 
+// The pictures are compiled into the views' static library, where nothing
+// refers to them: without this call the linker leaves them out, and every
+// window has the window manager's generic icon. Q_INIT_RESOURCE names a
+// function of the global namespace.
+static void CarregaRecursos() {
+    Q_INIT_RESOURCE(tramelo);
+}
+
 namespace tramelo {
 
 namespace {
@@ -64,8 +72,13 @@ void CarregaTraducoesDoQt() {
 ProgramaQt::ProgramaQt(bool servicosDoUsuario) {
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     CarregaTraducoesDoQt();
-    if (QApplication::windowIcon().isNull())
-        QApplication::setWindowIcon(QIcon(QStringLiteral(":/tramelo/tramelo.png")));
+    CarregaRecursos();
+    if (QApplication::windowIcon().isNull()) {
+        QIcon icone;
+        for (int lado : {16, 24, 32, 48, 64, 128, 256})
+            icone.addFile(QStringLiteral(":/tramelo/tramelo-%1.png").arg(lado), QSize(lado, lado));
+        QApplication::setWindowIcon(icone);
+    }
     sistema_ = std::make_unique<SistemaQt>();
     ambiente().sistema = sistema_.get();
     if (servicosDoUsuario) {

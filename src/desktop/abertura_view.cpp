@@ -173,6 +173,7 @@ SobreView::SobreView(FrmSobre& registro, QWidget* dono) : QDialog(dono), registr
     setFixedSize(Px(6330, this), Px(3720, this));
 
     auto* imagem = new QLabel(this);
+    imagem->setObjectName(QStringLiteral("imgIcone"));
     imagem->setPixmap(QApplication::windowIcon().pixmap(Px(720, this), Px(720, this)));
     imagem->setGeometry(Px(240, this), Px(240, this), Px(720, this), Px(720, this));
 

@@ -15,6 +15,8 @@
 #include <QStyleOptionButton>
 #include <QTimer>
 
+#include <utility>
+
 namespace tramelo {
 namespace {
 
@@ -58,6 +60,9 @@ class BotaoCalculadora : public QWidget {
     }
     void mousePressEvent(QMouseEvent* e) override {
         if (e->button() != Qt::LeftButton) return;
+        QPointer<CalculadoraView> vivo(calc_);
+        calc_->CumpreSoltura();
+        if (!vivo) return;
         if (calc_->voltando_) calc_->TerminaVolta();
         calc_->Pressiona(tecla_);
     }
@@ -134,6 +139,9 @@ CalculadoraView::CalculadoraView(QWidget* dono)
         Botao(b, 2);
     Form_Load(calc_);
     Mostra();
+    tmrSoltura_.setSingleShot(true);
+    tmrSoltura_.setInterval(80);
+    connect(&tmrSoltura_, &QTimer::timeout, this, &CalculadoraView::CumpreSoltura);
 }
 
 CalculadoraView::~CalculadoraView() {
@@ -329,6 +337,20 @@ void CalculadoraView::keyPressEvent(QKeyEvent* e) {
     // so a key held down doesn't repeat it.
     const int t = TeclaDe(e);
     if (t < 0 || e->isAutoRepeat()) return;
+    if (teclaSolta_ >= 0) {
+        // The server's autorepeat: a release and a press at the same instant,
+        // which no hand makes. The key is still down.
+        if (t == teclaSolta_ && e->timestamp() != 0 && e->timestamp() - horaSoltura_ <= 2) {
+            tmrSoltura_.stop();
+            teclaSolta_ = -1;
+            return;
+        }
+        QPointer<CalculadoraView> vivo(this);
+        CumpreSoltura();
+        if (!vivo || fechando_) return;
+    }
+    // A repeat that came as a press alone.
+    if (t == teclaPressionada_) return;
     teclaPressionada_ = t;
     if (voltando_) TerminaVolta();
     Pressiona(t);
@@ -340,6 +362,15 @@ void CalculadoraView::keyReleaseEvent(QKeyEvent* e) {
     // Only a key pressed here: the Enter that closed the division's box comes
     // back released over the calculator, and must not be taken for "=".
     if (teclaPressionada_ != t) return;
+    teclaSolta_ = t;
+    horaSoltura_ = e->timestamp();
+    tmrSoltura_.start();
+}
+
+void CalculadoraView::CumpreSoltura() {
+    tmrSoltura_.stop();
+    const int t = std::exchange(teclaSolta_, -1);
+    if (t < 0) return;
     teclaPressionada_ = -1;
     QPointer<CalculadoraView> vivo(this);
     Executa(t);

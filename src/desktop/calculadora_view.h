@@ -5,6 +5,7 @@
 
 #include "calculator/calculadora.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -58,6 +59,9 @@ class CalculadoraView : public QWidget {
     void DecideSaida();
     void Botao(BotaoCalculadora* imagem, int face);
     void Mostra();
+    // The operation of the key released last, unless the server's
+    // autorepeat presses it again at once.
+    void CumpreSoltura();
 
   public:
     // Closes the calculator, writing nothing.
@@ -83,6 +87,11 @@ class CalculadoraView : public QWidget {
     // click or five seconds; meanwhile the application's events pass here.
     bool voltando_ = false;
     int teclaPressionada_ = -1; // the key whose press this window received
+    // The key released, waiting to act: X's autorepeat sends a release and
+    // a press with the same time, and the press may not be there yet.
+    int teclaSolta_ = -1;
+    unsigned long long horaSoltura_ = 0;
+    QTimer tmrSoltura_;
 };
 
 } // namespace tramelo

@@ -176,6 +176,11 @@ void MostraDicasQt(QWidget* dono) {
     janela->move(origem + QPoint(static_cast<int>(std::lround(f.Left / static_cast<double>(t))),
                                  static_cast<int>(std::lround(f.Top / static_cast<double>(t)))));
     janela->show();
+    // Not modal, so not given the keys by being shown: at start the frame,
+    // shown a moment before, would keep them, and Enter and Escape would
+    // reach no OK.
+    janela->raise();
+    janela->activateWindow();
 }
 
 DicaView* DicaAberta() {

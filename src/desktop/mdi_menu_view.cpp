@@ -22,16 +22,21 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace tramelo {
@@ -50,13 +55,45 @@ QIcon Icone(const char* tema, QStyle::StandardPixmap reserva) {
     return i.isNull() ? QApplication::style()->standardIcon(reserva) : i;
 }
 
+// A desk calculator drawn at each size: the style's stand-in for a missing
+// theme icon is a 16-pixel computer, smaller than its neighbours, and its
+// label then sits higher than theirs.
+QIcon IconeCalculadora() {
+    QIcon icone;
+    for (int lado : {16, 22, 24, 32, 48, 64}) {
+        QPixmap p(lado, lado);
+        p.fill(Qt::transparent);
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        const double u = lado / 24.0;
+        const QRectF corpo(4 * u, 1.5 * u, 16 * u, 21 * u);
+        g.setPen(QPen(QColor(0x2e, 0x34, 0x36), std::max(1.0, u)));
+        g.setBrush(QColor(0x55, 0x57, 0x53));
+        g.drawRoundedRect(corpo, 2 * u, 2 * u);
+        g.setPen(Qt::NoPen);
+        g.setBrush(QColor(0xd3, 0xe8, 0xc8));
+        g.drawRect(QRectF(6 * u, 3.5 * u, 12 * u, 5 * u));
+        for (int linha = 0; linha < 4; ++linha)
+            for (int coluna = 0; coluna < 3; ++coluna) {
+                g.setBrush(coluna == 2 && linha > 1 ? QColor(0xf5, 0x79, 0x00) : QColor(0xee, 0xee, 0xec));
+                g.drawRect(QRectF((6 + coluna * 4.3) * u, (10.5 + linha * 2.9) * u, 3.1 * u, 2.1 * u));
+            }
+        g.end();
+        icone.addPixmap(p);
+    }
+    return icone;
+}
+
 QIcon IconeDoBotao(const std::string& key) {
     if (key == "Novo") return Icone("document-new", QStyle::SP_FileIcon);
     if (key == "Abrir") return Icone("document-open", QStyle::SP_DialogOpenButton);
     if (key == "Salvar") return Icone("document-save", QStyle::SP_DialogSaveButton);
     if (key == "Sair") return Icone("application-exit", QStyle::SP_DialogCloseButton);
     if (key == "Calcular") return Icone("system-run", QStyle::SP_MediaPlay);
-    if (key == "Calculadora") return Icone("accessories-calculator", QStyle::SP_ComputerIcon);
+    if (key == "Calculadora") {
+        QIcon i = QIcon::fromTheme(QStringLiteral("accessories-calculator"));
+        return i.isNull() ? IconeCalculadora() : i;
+    }
     if (key == "Imprimir") return Icone("document-print", QStyle::SP_FileDialogDetailedView);
     return Icone("document-export", QStyle::SP_FileDialogContentsView);
 }
@@ -68,6 +105,14 @@ Qt::WindowFlags FlagsFilho() {
            Qt::MSWindowsFixedSizeDialogHint;
 }
 
+Qt::WindowFlags FlagsRelatorio() {
+    // A report is read more than ten lines at a time: it can be made larger
+    // and maximised.
+    return Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+           Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint |
+           Qt::WindowCloseButtonHint;
+}
+
 } // namespace
 
 MdiMenuView::MdiMenuView() {
@@ -75,6 +120,9 @@ MdiMenuView::MdiMenuView() {
     area_ = new QMdiArea(this);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // A maximised report doesn't make the fixed calculation windows
+    // maximised as they come to the front.
+    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     setCentralWidget(area_);
     connect(area_, &QMdiArea::subWindowActivated, this, &MdiMenuView::AoAtivar);
 
@@ -146,9 +194,13 @@ MdiMenuView::MdiMenuView() {
     AtualizaRecentes();
     SincronizaFrame();
     notificador().Inscreve(this);
+    // A text field claims Ctrl+A (select all) and others before the menus
+    // see them; the menus' keys are looked at here first.
+    qApp->installEventFilter(this);
 }
 
 MdiMenuView::~MdiMenuView() {
+    qApp->removeEventFilter(this);
     notificador().Desinscreve(this);
     disconnect(area_, nullptr, this, nullptr);
     if (janelasCalculo() == this) janelasCalculo() = nullptr;
@@ -207,7 +259,7 @@ void MdiMenuView::Carregada(FrmCalcTramelo& f) {
     QMdiSubWindow* jc = area_->addSubWindow(vc, FlagsFilho());
     jc->setWindowIcon(QApplication::windowIcon());
     auto* vr = new RelatorioView(*f.Relatorio);
-    QMdiSubWindow* jr = area_->addSubWindow(vr, FlagsFilho());
+    QMdiSubWindow* jr = area_->addSubWindow(vr, FlagsRelatorio());
     // The area marks the windows it makes delete-on-close; these two live
     // until the record unloads them, a close by the user only asks.
     for (QMdiSubWindow* j : {jc, jr}) {
@@ -342,6 +394,14 @@ void MdiMenuView::SincronizaFrame() {
                            static_cast<QWidget*>(tbPadrao_), static_cast<QWidget*>(tbCalculo_),
                            static_cast<QWidget*>(statusBar())})
         parte->setEnabled(m.Enabled);
+    // A child activated while the frame was busy (the toolbar's "Novo")
+    // couldn't take the focus then: it takes it now, as its activation
+    // would have given it.
+    QMdiSubWindow* ativa = area_->activeSubWindow();
+    if (m.Enabled && !std::exchange(habilitado_, true) && ativa && isActiveWindow() &&
+        !ativa->isAncestorOf(QApplication::focusWidget()))
+        ativa->setFocus(Qt::OtherFocusReason);
+    habilitado_ = m.Enabled;
 }
 
 void MdiMenuView::AplicaMudancas() {
@@ -377,9 +437,13 @@ void MdiMenuView::SincronizaPar(Par& p, bool calculo, bool relatorio) {
     p.janelaRelatorio->setWindowTitle(Q(r.Caption));
     const int ordem = p.janelaRelatorio->property("ordemZ").toInt();
     if (r.Visible && (p.janelaRelatorio->isHidden() || ordem != r.ordemZ)) {
-        // Shown and brought to the front by "Calcular".
+        // Shown and brought to the front by "Calcular"; at its built size
+        // the first time, afterwards at the size the user left it.
         p.janelaRelatorio->setProperty("ordemZ", r.ordemZ);
-        p.janelaRelatorio->adjustSize();
+        if (!p.janelaRelatorio->property("mostrada").toBool()) {
+            p.janelaRelatorio->setProperty("mostrada", true);
+            p.janelaRelatorio->adjustSize();
+        }
         p.janelaRelatorio->show();
         p.janelaRelatorio->raise();
         QMetaObject::invokeMethod(
@@ -425,6 +489,47 @@ void MdiMenuView::changeEvent(QEvent* e) {
 }
 
 bool MdiMenuView::eventFilter(QObject* objeto, QEvent* evento) {
+    // A menu's key pressed in a field of this window is the menu's: the
+    // field's claim is refused, and the shortcut runs.
+    if (evento->type() == QEvent::ShortcutOverride) {
+        auto* w = qobject_cast<QWidget*>(objeto);
+        auto* e = static_cast<QKeyEvent*>(evento);
+        const QKeySequence tecla(
+            QKeyCombination(e->modifiers() & ~Qt::KeypadModifier, Qt::Key(e->key())));
+        if (w && w->window() == this)
+            for (QAction* a : atalhos_)
+                if (a->isEnabled() && a->shortcut() == tecla) {
+                    e->ignore();
+                    return true;
+                }
+        return false;
+    }
+    // A child's title bar takes a press on a button only if a move of the
+    // pointer told it the button is there, and it reads the buttons' places
+    // from a map it renews 200 ms after the window last changed size. A
+    // window that came up under a resting hand (a table opened again, a
+    // report shown again) or that has just changed size took the press for
+    // a move of the window, and a click on its close box only activated it.
+    // The map and the pointer's place on it are renewed before the press.
+    if (evento->type() == QEvent::MouseButtonPress) {
+        auto* j = qobject_cast<QMdiSubWindow*>(objeto);
+        auto* m = static_cast<QMouseEvent*>(evento);
+        if (j && j->parentWidget() == area_->viewport() && m->button() == Qt::LeftButton) {
+            QEvent renova(QEvent::LayoutRequest);
+            QCoreApplication::sendEvent(j, &renova);
+            QMouseEvent aqui(QEvent::MouseMove, m->position(), m->scenePosition(),
+                             m->globalPosition(), Qt::NoButton, Qt::NoButton, m->modifiers());
+            QCoreApplication::sendEvent(j, &aqui);
+        }
+        return false;
+    }
+    // The work area shrinks when bars come back (or the frame is made
+    // smaller): children placed while it was larger would hang past its
+    // edges behind scroll bars.
+    if (evento->type() == QEvent::Resize && objeto == area_->viewport()) {
+        QMetaObject::invokeMethod(this, &MdiMenuView::RecolheFilhos, Qt::QueuedConnection);
+        return false;
+    }
     // The right button on a bar opens the bars menu at the pointer.
     if (evento->type() == QEvent::ContextMenu &&
         (objeto == tbPadrao_ || objeto == tbCalculo_ || objeto == statusBar())) {
@@ -453,6 +558,18 @@ QMenu* MdiMenuView::MenuBarras() {
     return menu;
 }
 
+void MdiMenuView::RecolheFilhos() {
+    const QSize area = area_->viewport()->size();
+    for (QMdiSubWindow* j : area_->subWindowList()) {
+        if (j->isHidden() || j->isMaximized()) continue;
+        const QRect g = j->geometry();
+        // As far in as it fits; one larger than the area keeps its top left.
+        const int x = std::max(0, std::min(g.x(), area.width() - g.width()));
+        const int y = std::max(0, std::min(g.y(), area.height() - g.height()));
+        if (x != g.x() || y != g.y()) j->move(x, y);
+    }
+}
+
 void MdiMenuView::PreencheJanela(QMenu* menu) {
     int n = 0;
     for (QMdiSubWindow* j : area_->subWindowList()) {
@@ -478,7 +595,10 @@ void MdiMenuView::ConstroiMenus() {
     auto item = [this](QMenu* menu, const QString& texto, std::function<void()> acao,
                        const QKeySequence& tecla = {}) {
         QAction* a = menu->addAction(texto);
-        if (!tecla.isEmpty()) a->setShortcut(tecla);
+        if (!tecla.isEmpty()) {
+            a->setShortcut(tecla);
+            atalhos_.push_back(a);
+        }
         // Run once the menu has closed: a box shown under an open menu
         // leaves the bar dead to the mouse and the keys.
         if (acao)

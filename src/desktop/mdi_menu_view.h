@@ -98,6 +98,8 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador
     Tipo TipoDe(QMdiSubWindow* janela, FrmCalcTramelo** calculo, FrmRelatorio** relatorio) const;
     void Acao(const std::function<void()>& acao);
     void PreencheJanela(QMenu* menu);
+    // The children brought back inside the work area after it shrank.
+    void RecolheFilhos();
     QMenu* MenuBarras();
 
     QMdiArea* area_;
@@ -106,6 +108,7 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador
     std::vector<Par> pares_;
     QPointer<QMdiSubWindow> ativo_;
     Tipo tipoMenu_ = Tipo::Frame;
+    bool habilitado_ = true; // the frame's parts, as last set
 
     // The menu bar is made once; these entries change with the active child.
     // Owned by their menus, which the menu bar owns.
@@ -120,6 +123,11 @@ class MdiMenuView : public QMainWindow, public JanelasCalculo, public Observador
     } menus_{};
 
     // What changed since the last application.
+    // The menu entries with a key of their own (Ctrl+A, Ctrl+O, ...): in
+    // this window they win over a text field's use of the same key. Owned
+    // by their menus.
+    std::vector<QAction*> atalhos_;
+
     std::set<const void*> calculosMudados_, relatoriosMudados_;
     bool barrasMudaram_ = false, recentesMudaram_ = false, ativoMudou_ = false;
     bool aplicacaoPendente_ = false;

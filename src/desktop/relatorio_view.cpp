@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QVBoxLayout>
 
 namespace tramelo {
 namespace {
@@ -42,11 +43,16 @@ QString Q(const std::string& s) {
 
 RelatorioView::RelatorioView(FrmRelatorio& registro, QWidget* pai)
     : QWidget(pai), registro_(registro) {
-    setFixedSize(Px(8895, this), Px(4830, this));
-    auto* picTodos = new QWidget(this);
-    picTodos->setGeometry(Px(75, this), Px(30, this), Px(8745, this), Px(4740, this));
-    picTodos->setAutoFillBackground(true);
-    picTodos->setBackgroundRole(QPalette::Base);
+    // The built size is the size it opens at and the least it takes; what
+    // more the user gives it goes to the report's list and the tabs.
+    tamanhoProjeto_ = QSize(Px(8895, this), Px(4830, this));
+    setMinimumSize(tamanhoProjeto_);
+    resize(tamanhoProjeto_);
+    picTodos_ = new QWidget(this);
+    picTodos_->setGeometry(Px(75, this), Px(30, this), Px(8745, this), Px(4740, this));
+    picTodos_->setAutoFillBackground(true);
+    picTodos_->setBackgroundRole(QPalette::Base);
+    QWidget* picTodos = picTodos_;
 
     const QFont fixa = FonteFixa(9);
     auto rotulo = [&](int x, int y, int w, int h, const std::string& texto) {
@@ -81,8 +87,17 @@ RelatorioView::RelatorioView(FrmRelatorio& registro, QWidget* pai)
     cmdAgora_->setFocusPolicy(Qt::NoFocus);
     cmdAgora_->setToolTip(QStringLiteral("Hora e data atuais"));
 
-    shpMenu_ = new QWidget(picTodos);
-    shpMenu_->setGeometry(0, Px(1260, this), Px(8715, this), Px(285, this));
+    // The report and the standard's check share the place under the header
+    // fields, one tab each, the tabs below. The column header band belongs
+    // to the report's tab: the check's lines have columns of their own.
+    abas_ = new QTabWidget(picTodos);
+    abas_->setObjectName(QStringLiteral("abasRelatorio"));
+    abas_->setTabPosition(QTabWidget::South);
+    abas_->setDocumentMode(true);
+    abas_->setGeometry(0, Px(1260, this), Px(8715, this), Px(4695 - 1260, this));
+    auto* paginaRelatorio = new QWidget;
+    shpMenu_ = new QWidget(paginaRelatorio);
+    shpMenu_->setFixedHeight(Px(285, this));
     shpMenu_->setAutoFillBackground(true);
     shpMenu_->setBackgroundRole(QPalette::Highlight);
     lblMenu_ = new QLabel(Q(registro_.lblMenu), shpMenu_);
@@ -90,18 +105,15 @@ RelatorioView::RelatorioView(FrmRelatorio& registro, QWidget* pai)
     lblMenu_->setForegroundRole(QPalette::HighlightedText);
     lblMenu_->move(Px(30, this), (shpMenu_->height() - lblMenu_->sizeHint().height()) / 2);
     lblMenu_->adjustSize();
-
-    // The report and the standard's check share the list's place, one tab
-    // each, the tabs below so the report stays under its column header.
-    abas_ = new QTabWidget(picTodos);
-    abas_->setObjectName(QStringLiteral("abasRelatorio"));
-    abas_->setTabPosition(QTabWidget::South);
-    abas_->setDocumentMode(true);
-    abas_->setGeometry(Px(-15, this), Px(1515, this), Px(8715, this), Px(3180, this));
     lstRelatorio_ = new QListWidget;
     lstRelatorio_->setObjectName(QStringLiteral("lstRelatorio"));
     lstRelatorio_->setFont(fixa);
-    abas_->addTab(lstRelatorio_, QStringLiteral("Relatório"));
+    auto* pilha = new QVBoxLayout(paginaRelatorio);
+    pilha->setContentsMargins(0, 0, 0, 0);
+    pilha->setSpacing(0);
+    pilha->addWidget(shpMenu_);
+    pilha->addWidget(lstRelatorio_, 1);
+    abas_->addTab(paginaRelatorio, QStringLiteral("Relatório"));
     lstIso_ = new QListWidget;
     lstIso_->setObjectName(QStringLiteral("lstIso"));
     lstIso_->setFont(fixa);
@@ -163,6 +175,19 @@ void RelatorioView::Sincroniza() {
         }
     }
     verificacao_->Sincroniza();
+}
+
+QSize RelatorioView::sizeHint() const {
+    return tamanhoProjeto_;
+}
+
+void RelatorioView::resizeEvent(QResizeEvent* e) {
+    // The header fields keep their place and size; the sheet under them,
+    // and the tabs on it, take what the window has over its built size.
+    const QSize mais = size() - tamanhoProjeto_;
+    picTodos_->resize(Px(8745, this) + mais.width(), Px(4740, this) + mais.height());
+    abas_->resize(Px(8715, this) + mais.width(), Px(4695 - 1260, this) + mais.height());
+    QWidget::resizeEvent(e);
 }
 
 void RelatorioView::closeEvent(QCloseEvent* e) {

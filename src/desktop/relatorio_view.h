@@ -1,5 +1,7 @@
 // The report window: three header fields above the fixed-pitch line list,
-// and beside the list, in a second tab, the ISO 5167-2:2003 check.
+// and beside the list, in a second tab, the ISO 5167-2:2003 check. It opens
+// at its built size and can be made larger or maximised; the list and the
+// tabs grow with it.
 // It shows a FrmRelatorio record and writes the typed header texts back.
 #pragma once
 
@@ -24,6 +26,8 @@ class RelatorioView : public QWidget {
     FrmRelatorio& registro() { return registro_; }
     // Brings the widgets in line with the record.
     void Sincroniza();
+    // The built size, which the window opens at.
+    QSize sizeHint() const override;
 
   signals:
     // The user asked to close: the window hides instead (its lines stay).
@@ -31,9 +35,12 @@ class RelatorioView : public QWidget {
 
   protected:
     void closeEvent(QCloseEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
 
   private:
     FrmRelatorio& registro_;
+    QSize tamanhoProjeto_;
+    QWidget* picTodos_;
     QLabel *lblData_, *lblOS_, *lblCliente_, *lblMenu_;
     QLineEdit *txtData_, *txtOS_, *txtCliente_;
     QPushButton* cmdAgora_;

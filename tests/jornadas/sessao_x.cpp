@@ -177,6 +177,10 @@ void SessaoX::Mata() {
     Encerra(app_, SIGKILL);
 }
 
+void SessaoX::Sinaliza(int sinal) {
+    if (app_ > 0) kill(app_, sinal);
+}
+
 std::string SessaoX::Saida() const {
     std::ifstream f(Caminho("programa.log"));
     std::stringstream s;

@@ -42,6 +42,8 @@ class SessaoX {
     int Espera(int ms);
     // Ends the program (SIGKILL) if it still runs.
     void Mata();
+    // Sends the program a signal, as a terminal or the system does.
+    void Sinaliza(int sinal);
     std::string Saida() const; // what it wrote on standard error
 
     std::vector<No> Arvore() const;
