@@ -567,7 +567,7 @@ TEST_F(Jornada, VerificaPlacaExistenteEImprime) {
 
     // Letters: a box says so, and the bore is there to be typed again.
     x.Clica(campo->cx(), campo->cy());
-    x.Tecla("ctrl+a");
+    x.Tecla("Home shift+End");
     x.Digita("6O");
     auto verificar = NaVista("push button", "Verificar");
     ASSERT_TRUE(verificar);
@@ -583,12 +583,12 @@ TEST_F(Jornada, VerificaPlacaExistenteEImprime) {
     campo = NaVista("text", diametro);
     ASSERT_TRUE(campo);
     x.Clica(campo->cx(), campo->cy());
-    x.Tecla("ctrl+a");
+    x.Tecla("Home shift+End");
     x.Digita("60");
     auto faixa = NaVista("text", "Vazões (% da vazão de projeto)");
     ASSERT_TRUE(faixa);
     x.Clica(faixa->cx(), faixa->cy());
-    x.Tecla("ctrl+a");
+    x.Tecla("Home shift+End");
     x.Digita("2; 10; 25; 50; 75; 100; 120");
     x.Tecla("Return");
     auto tabela = NaVista("table", "Tabela da verificação");
