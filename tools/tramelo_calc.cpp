@@ -8,6 +8,7 @@
 #include "report/linhas_verificacao.h"
 #include "base/mod_base.h"
 #include "plataforma/numero.h"
+#include "plataforma/texto.h"
 #include "sizing/catalogo.h"
 
 #include <CLI/CLI.hpp>
@@ -70,12 +71,6 @@ nlohmann::json JsonIso(const tramelo::ResultadoIso& r) {
     return j;
 }
 
-// Characters, not bytes: the labels carry accents and Greek letters.
-size_t Largura(const std::string& s) {
-    return static_cast<size_t>(
-        std::count_if(s.begin(), s.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
 // --propriedades P T: P in kPa absolute, T in ºC. Exit status 1 when IAPWS-IF97
 // gives no figures, with the reason on standard error or in "erro".
 int Propriedades(const std::string& P, const std::string& T, bool json) {
@@ -112,7 +107,8 @@ int Propriedades(const std::string& P, const std::string& T, bool json) {
                        {"Temperatura", tramelo::NumeroParaTexto(p.T_C), "ºC"}});
         std::cout << "Propriedades da água e do vapor (IAPWS-IF97)\n";
         for (const auto& l : linhas) {
-            const size_t n = Largura(l.rotulo);
+            // Characters, not bytes: the labels carry accents and Greek letters.
+            const size_t n = static_cast<size_t>(tramelo::Len(l.rotulo));
             std::cout << l.rotulo << " " << std::string(n < 42 ? 42 - n : 1, '.') << " " << l.valor
                       << (l.unidade.empty() ? "" : " " + l.unidade) << "\n";
         }
@@ -124,11 +120,9 @@ int Propriedades(const std::string& P, const std::string& T, bool json) {
 // --verifica D_MM [--faixa P1,P2,...]: the bore with a point or a comma
 // for its decimal mark; the percentages apart at commas, so their decimal
 // mark is the point.
-std::optional<double> NumeroDaOpcao(std::string s) {
-    std::replace(s.begin(), s.end(), ',', '.');
-    char* fim = nullptr;
-    const double v = std::strtod(s.c_str(), &fim);
-    if (s.empty() || *fim != '\0' || !std::isfinite(v)) return std::nullopt;
+std::optional<double> NumeroDaOpcao(const std::string& s) {
+    const std::optional<double> v = tramelo::LeNumeroPontoOuVirgula(s);
+    if (!v || !std::isfinite(*v)) return std::nullopt;
     return v;
 }
 
