@@ -111,6 +111,21 @@ class Jornada : public ::testing::Test {
         return registro;
     }
 
+    // The print dialog open: the PDF's name typed into its output field,
+    // printed, and the file's text once it is written.
+    void ImprimeEmPdf(const std::string& pdf, std::string& texto) {
+        auto saida = x.Espera("text", "Arquivo de saída:", 8000);
+        ASSERT_TRUE(saida);
+        x.Clica(saida->cx(), saida->cy());
+        x.Tecla("ctrl+a");
+        x.Digita(pdf);
+        x.Tecla("Return");
+        for (int i = 0; i < 50 && !fs::exists(pdf); ++i) x.Pausa(100);
+        ASSERT_TRUE(fs::exists(pdf));
+        x.Pausa(500);
+        texto = x.Comando("pdftotext -layout '" + pdf + "' - 2>/dev/null");
+    }
+
     SessaoX x;
 };
 
@@ -462,16 +477,8 @@ TEST_F(Jornada, ImprimeEmPdfEExporta) {
     x.Clica(copias->cx(), copias->cy());
     x.Tecla("ctrl+a");
     x.Digita("2");
-    saida = x.Acha("text", "Arquivo de saída:");
-    ASSERT_TRUE(saida);
-    x.Clica(saida->cx(), saida->cy());
-    x.Tecla("ctrl+a");
-    x.Digita(pdf);
-    x.Tecla("Return");
-    for (int i = 0; i < 50 && !fs::exists(pdf); ++i) x.Pausa(100);
-    ASSERT_TRUE(fs::exists(pdf));
-    x.Pausa(500);
-    const std::string texto = x.Comando("pdftotext -layout '" + pdf + "' - 2>/dev/null");
+    std::string texto;
+    ASSERT_NO_FATAL_FAILURE(ImprimeEmPdf(pdf, texto));
     const size_t primeira = texto.find("Flange Taps");
     ASSERT_NE(primeira, std::string::npos) << texto;
     EXPECT_NE(texto.find("Flange Taps", primeira + 1), std::string::npos) << texto;
@@ -622,16 +629,8 @@ TEST_F(Jornada, VerificaPlacaExistenteEImprime) {
         "check box", "Imprimir a verificação pela ISO 5167-2:2003 como segunda página", 5000);
     ASSERT_TRUE(segunda);
     x.Clica(segunda->cx(), segunda->cy());
-    auto saida = x.Espera("text", "Arquivo de saída:", 8000);
-    ASSERT_TRUE(saida);
-    x.Clica(saida->cx(), saida->cy());
-    x.Tecla("ctrl+a");
-    x.Digita(pdf);
-    x.Tecla("Return");
-    for (int i = 0; i < 50 && !fs::exists(pdf); ++i) x.Pausa(100);
-    ASSERT_TRUE(fs::exists(pdf));
-    x.Pausa(500);
-    const std::string texto = x.Comando("pdftotext -layout '" + pdf + "' - 2>/dev/null");
+    std::string texto;
+    ASSERT_NO_FATAL_FAILURE(ImprimeEmPdf(pdf, texto));
     for (const std::string parte :
          {"Verificação de placa existente (ISO 5167-2:2003)", "ReD abaixo do limite a 2 % da vazão",
           "Limites de uso (ISO 5167-2, 5.3.1) - Flange Taps", "Pressão diferencial × vazão",
