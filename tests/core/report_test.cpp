@@ -9,6 +9,7 @@
 #include "report/exportar.h"
 #include "report/frm_relatorio.h"
 #include "report/impressao.h"
+#include "report/linhas.h"
 #include "report/linhas_iso.h"
 #include "base/mod_base.h"
 
@@ -20,6 +21,27 @@
 
 namespace tramelo::teste {
 namespace {
+
+// The report's rounding to significant digits: the divisor is 10^m as its
+// text reads back, which pow(10, 23) isn't. Expected values from Python 3.11:
+// floor(x * math.pow(10, m) + 0.5) / float(f"1e{m}"), m = d - floor(log(x) / log(10)).
+TEST(Report, ArredondaPelaPotenciaLida) {
+    const struct {
+        double x;
+        int digitos;
+        double esperado;
+    } casos[] = {
+        {0.0123456, 3, 0.01235},
+        {102.26, 4, 102.26},
+        {1234567.891, 2, 1230000.0},
+        {0.000987654321, 5, 0.000987654},
+        {6.117142834651689e-20, 3, 6.117000000000001e-20}, // m = 23
+        {1e-25, 4, 1e-25},                                  // m = 29
+        {0.5, 1, 0.5},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(Arredonda(c.x, c.digitos).valor(), c.esperado) << c.x << " " << c.digitos;
+}
 
 TEST(Report, HoraEDataDoBotao) {
     struct RelogioFixo : Relogio {
