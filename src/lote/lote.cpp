@@ -4,6 +4,7 @@
 #include "document/frm_calc_tramelo.h"
 #include "document/janelas.h"
 #include "plataforma/ambiente.h"
+#include "plataforma/arquivo_lido.h"
 #include "report/exportacao.h"
 #include "document/calculo.h"
 #include "plataforma/canal.h"
@@ -12,8 +13,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <cstdio>
-#include <memory>
+#include <utility>
 
 namespace tramelo {
 namespace {
@@ -76,7 +76,7 @@ bool LinhaDoFluido(std::string_view s) {
 }
 
 // Enough of a file to hold any header a user typed.
-constexpr long BytesDoCabecalho = 64 * 1024;
+constexpr std::size_t BytesDoCabecalho = 64 * 1024;
 
 // Each file starts as the first of a run would: a file that failed before
 // it may have left the channel taken (the desktop program keeps that, a batch
@@ -113,35 +113,23 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     ResultadoLote r;
     r.arquivo = arquivo;
     CaixasLote caixas(r, sim);
-    std::error_code ec;
     const std::filesystem::path caminho(std::u8string(arquivo.begin(), arquivo.end()));
-    if (std::filesystem::is_directory(caminho, ec)) {
+    // One read gives the header and tells a folder. A file that can't be
+    // read here goes on to the open, which tells why.
+    const ArquivoLido lido = LeArquivoInteiro(caminho, BytesDoCabecalho);
+    std::error_code ec;
+    if (lido.estado == ArquivoLido::Estado::Pasta ||
+        (lido.estado == ArquivoLido::Estado::NaoAbriu && std::filesystem::is_directory(caminho, ec))) {
         r.arquivoDeCalculo = false;
         r.status = 3;
         MsgBox("É uma pasta, não um arquivo de cálculo", vbExclamation, "Arquivo: " + arquivo);
         return r;
     }
-    // A file that can't be opened here goes on to the open, which tells why.
-    // A plain stdio stream: a file stream's locale and buffer cost more than
-    // the few dozen bytes of a header it would read.
-    if (std::unique_ptr<std::FILE, int (*)(std::FILE*)> entrada(std::fopen(caminho.c_str(), "rb"),
-                                                               &std::fclose);
-        entrada) {
-        // Read by small pieces until the seven header lines have ended.
-        std::string inicio;
-        char pedaco[512];
-        while (static_cast<long>(inicio.size()) < BytesDoCabecalho &&
-               std::count(inicio.begin(), inicio.end(), '\n') < 7) {
-            const size_t n = std::fread(pedaco, 1, sizeof pedaco, entrada.get());
-            if (n == 0) break;
-            inicio.append(pedaco, n);
-        }
-        if (!std::ferror(entrada.get()) && !PareceArquivoDeCalculo(inicio)) {
-            r.arquivoDeCalculo = false;
-            r.status = 3;
-            MsgBox("Não é um arquivo de cálculo do Tramelo", vbExclamation, "Arquivo: " + arquivo);
-            return r;
-        }
+    if (lido.estado == ArquivoLido::Estado::Lido && !PareceArquivoDeCalculo(lido.bytes)) {
+        r.arquivoDeCalculo = false;
+        r.status = 3;
+        MsgBox("Não é um arquivo de cálculo do Tramelo", vbExclamation, "Arquivo: " + arquivo);
+        return r;
     }
     FrmCalcTramelo* f = AbreCalculo(true, arquivo);
     if (!f || !f->ArquivoExiste) {
@@ -152,8 +140,9 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     }
     Execucao x;
     ResultadoCalculo c = cmdCalcular_Click(*f, &x);
-    r.linhas = f->Relatorio->lstRelatorio;
     r.exportacao = LinhasExportacao(*f->Relatorio);
+    // The window goes away below with its report: its lines are taken, not copied.
+    r.linhas = std::move(f->Relatorio->lstRelatorio);
     r.concluido = c.fim == FimCalculo::Concluido;
     if (c.fim == FimCalculo::Falhou) {
         r.erro = c.erro;

@@ -1,5 +1,6 @@
 #include "plataforma/canal.h"
 
+#include "plataforma/arquivo_lido.h"
 #include "plataforma/cp1252.h"
 #include "plataforma/falha.h"
 #include "plataforma/numero.h"
@@ -126,22 +127,24 @@ void CanalArquivo::AbreSaida(const std::string& arquivo) {
 void CanalArquivo::AbreEntrada(const std::string& arquivo) {
     if (Ocupado()) throw Falha(ArquivoJaAberto);
     const fs::path caminho = Caminho(arquivo);
-    std::error_code ec;
-    const fs::file_status estado = fs::status(caminho, ec);
-    if (!fs::exists(estado))
-        throw Falha(PastaExiste(caminho) ? ArquivoNaoEncontrado : CaminhoNaoEncontrado);
-    if (fs::is_directory(estado)) throw Falha(AcessoNegado);
-    std::FILE* f = AbreArquivo(caminho, "rb");
-    if (!f) throw FalhaDoSistema(errno, AcessoNegado);
-    std::string bytes;
-    char bloco[8192];
-    std::size_t n;
-    while ((n = std::fread(bloco, 1, sizeof bloco, f)) > 0)
-        bytes.append(bloco, n);
-    const bool erro = std::ferror(f);
-    std::fclose(f);
-    if (erro) throw Falha(ErroDispositivo);
-    bytes_ = std::move(bytes);
+    ArquivoLido lido = LeArquivoInteiro(caminho);
+    switch (lido.estado) {
+    case ArquivoLido::Estado::Lido:
+        break;
+    case ArquivoLido::Estado::Pasta:
+        throw Falha(AcessoNegado);
+    case ArquivoLido::Estado::ErroLeitura:
+        throw Falha(ErroDispositivo);
+    case ArquivoLido::Estado::NaoAbriu: {
+        // Only now is it asked why: a file that isn't there is 53, or 76
+        // when its folder isn't either.
+        std::error_code ec;
+        if (!fs::exists(fs::status(caminho, ec)))
+            throw Falha(PastaExiste(caminho) ? ArquivoNaoEncontrado : CaminhoNaoEncontrado);
+        throw FalhaDoSistema(lido.erro, AcessoNegado);
+    }
+    }
+    bytes_ = std::move(lido.bytes);
     pos_ = 0;
     modo_ = Modo::Entrada;
 }
