@@ -241,9 +241,17 @@ int main(int argc, char** argv) {
 
     int status = 0;
     nlohmann::json saida = nlohmann::json::array();
+    // The text goes out in large pieces: a report is some fifty short lines.
+    std::string texto;
     for (size_t k = 0; k < arquivos.size(); ++k) {
-        tramelo::ResultadoLote r = tramelo::CalculaArquivo(arquivos[k], sim);
+        const tramelo::ResultadoLote r = tramelo::CalculaArquivo(arquivos[k], sim);
         status = std::max(status, r.status);
+        // The reports before a file's messages go out before them.
+        if (!r.mensagens.empty() && !texto.empty()) {
+            std::cout.write(texto.data(), static_cast<std::streamsize>(texto.size()));
+            std::cout.flush();
+            texto.clear();
+        }
         for (const auto& m : r.mensagens)
             std::cerr << UmaLinha(m.titulo) << ": " << UmaLinha(m.texto) << "\n";
         if (json) {
@@ -264,21 +272,29 @@ int main(int argc, char** argv) {
             if (!verifica.empty()) objeto["verificacao"] = JsonVerificacao(Verifica(r, verifica, faixa).resultado);
             saida.push_back(std::move(objeto));
         } else {
-            if (k > 0) std::cout << "\n";
-            for (const std::string& l : r.exportacao)
-                std::cout << l << "\n";
+            auto linhas = [&](const std::vector<std::string>& ls) {
+                for (const std::string& l : ls) {
+                    texto += l;
+                    texto += '\n';
+                }
+            };
+            if (k > 0) texto += '\n';
+            linhas(r.exportacao);
             if (iso) {
-                std::cout << "\n";
-                for (const std::string& l : tramelo::LinhasIso5167(r.iso))
-                    std::cout << l << "\n";
+                texto += '\n';
+                linhas(tramelo::LinhasIso5167(r.iso));
             }
             if (!verifica.empty()) {
-                std::cout << "\n";
-                for (const std::string& l : tramelo::LinhasVerificacao(Verifica(r, verifica, faixa), r.ponto))
-                    std::cout << l << "\n";
+                texto += '\n';
+                linhas(tramelo::LinhasVerificacao(Verifica(r, verifica, faixa), r.ponto));
+            }
+            if (texto.size() >= 64 * 1024) {
+                std::cout.write(texto.data(), static_cast<std::streamsize>(texto.size()));
+                texto.clear();
             }
         }
     }
+    std::cout.write(texto.data(), static_cast<std::streamsize>(texto.size()));
     if (json)
         std::cout << saida.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
     std::cout.flush();
