@@ -61,6 +61,31 @@ class CaixasLote : public Caixas {
     Caixas* anterior_;
 };
 
+// The file of the run as its header check read it: the channel gets those
+// bytes instead of reading the file again, when they are the whole file.
+class ArquivoJaLido : public FonteArquivos {
+  public:
+    ArquivoJaLido(std::filesystem::path caminho, ArquivoLido lido, bool inteiro)
+        : caminho_(std::move(caminho)), lido_(std::move(lido)), inteiro_(inteiro),
+          anterior_(ambiente().arquivos) {
+        ambiente().arquivos = this;
+    }
+    ~ArquivoJaLido() override { ambiente().arquivos = anterior_; }
+
+    ArquivoLido Le(const std::filesystem::path& caminho) override {
+        // Handed over once: a second open of the same file reads it afresh.
+        if (!inteiro_ || caminho != caminho_) return LeArquivoInteiro(caminho);
+        inteiro_ = false;
+        return std::move(lido_);
+    }
+
+  private:
+    std::filesystem::path caminho_;
+    ArquivoLido lido_;
+    bool inteiro_;
+    FonteArquivos* anterior_;
+};
+
 bool Digitos(std::string_view s) {
     return !s.empty() && s.find_first_not_of("0123456789") == std::string_view::npos;
 }
@@ -116,7 +141,7 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     const std::filesystem::path caminho(std::u8string(arquivo.begin(), arquivo.end()));
     // One read gives the header and tells a folder. A file that can't be
     // read here goes on to the open, which tells why.
-    const ArquivoLido lido = LeArquivoInteiro(caminho, BytesDoCabecalho);
+    ArquivoLido lido = LeArquivoInteiro(caminho, BytesDoCabecalho);
     std::error_code ec;
     if (lido.estado == ArquivoLido::Estado::Pasta ||
         (lido.estado == ArquivoLido::Estado::NaoAbriu && std::filesystem::is_directory(caminho, ec))) {
@@ -131,6 +156,10 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
         MsgBox("Não é um arquivo de cálculo do Tramelo", vbExclamation, "Arquivo: " + arquivo);
         return r;
     }
+    // Less than the limit read is the whole file.
+    const bool inteiro =
+        lido.estado == ArquivoLido::Estado::Lido && lido.bytes.size() < BytesDoCabecalho;
+    ArquivoJaLido jaLido(caminho, std::move(lido), inteiro);
     FrmCalcTramelo* f = AbreCalculo(true, arquivo);
     if (!f || !f->ArquivoExiste) {
         r.status = 2;

@@ -3,6 +3,7 @@
 // before the first routine runs.
 #pragma once
 
+#include "plataforma/arquivo_lido.h"
 #include "plataforma/caixas.h"
 #include "plataforma/dialogos.h"
 #include "plataforma/relogio.h"
@@ -17,6 +18,7 @@ struct Ambiente {
     Relogio* relogio = nullptr; // the system clock when none is installed
     Dialogos* dialogos = nullptr; // none: every dialog is cancelled
     Sistema* sistema = nullptr;   // none: no events to run, nothing opens
+    FonteArquivos* arquivos = nullptr; // none: files are read from the disk
 };
 
 // Through the installed Sistema; without one they do nothing.

@@ -20,4 +20,13 @@ struct ArquivoLido {
 ArquivoLido LeArquivoInteiro(const std::filesystem::path& caminho,
                              std::size_t limite = std::numeric_limits<std::size_t>::max());
 
+// Where the file channel reads a whole file from: the disk when none is
+// installed. The batch tool installs one that hands over the bytes it has
+// just read for a file's header, so each file is read once.
+class FonteArquivos {
+  public:
+    virtual ~FonteArquivos() = default;
+    virtual ArquivoLido Le(const std::filesystem::path& caminho) = 0;
+};
+
 } // namespace tramelo

@@ -1,5 +1,6 @@
 #include "plataforma/canal.h"
 
+#include "plataforma/ambiente.h"
 #include "plataforma/arquivo_lido.h"
 #include "plataforma/cp1252.h"
 #include "plataforma/falha.h"
@@ -127,7 +128,8 @@ void CanalArquivo::AbreSaida(const std::string& arquivo) {
 void CanalArquivo::AbreEntrada(const std::string& arquivo) {
     if (Ocupado()) throw Falha(ArquivoJaAberto);
     const fs::path caminho = Caminho(arquivo);
-    ArquivoLido lido = LeArquivoInteiro(caminho);
+    FonteArquivos* fonte = ambiente().arquivos;
+    ArquivoLido lido = fonte ? fonte->Le(caminho) : LeArquivoInteiro(caminho);
     switch (lido.estado) {
     case ArquivoLido::Estado::Lido:
         break;

@@ -315,6 +315,14 @@ TEST_F(ShellLote, StatusDeSaida) {
                             "Arquivo: " + pasta / "texto.trl" + ": Não é um arquivo de cálculo do Tramelo\n"
                             "Arquivo: " + pasta.str() + ": É uma pasta, não um arquivo de cálculo\n");
     EXPECT_EQ(Executa(pasta / "bytes.trl").saida, "");
+
+    // A date text longer than the header check reads: the calculation still
+    // reads the whole file.
+    std::string agua = LeBytes(Exemplo("agua.trl"));
+    GravaBytes(pasta / "longo.trl", "\"" + std::string(70000, 'x') + "\"" + agua.substr(agua.find("\r\n")));
+    Saida longo = Executa(pasta / "longo.trl");
+    EXPECT_EQ(longo.status, 0) << longo.erros;
+    EXPECT_NE(longo.saida.find(std::string(70000, 'x') + "\n"), std::string::npos);
 }
 
 } // namespace
