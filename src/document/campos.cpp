@@ -25,7 +25,10 @@ void PoeEmUso(FrmCalcTramelo& f, std::initializer_list<int> linhas) {
 
 // Clears a unit list and fills it with the given units.
 void PreencheLista(FrmCalcTramelo& f, int Index, std::initializer_list<int> escalas) {
-    if (CaixaCombinacao* cbo = f.cboDados(Index)) cbo->Clear();
+    if (CaixaCombinacao* cbo = f.cboDados(Index)) {
+        cbo->Clear();
+        cbo->itens.reserve(escalas.size());
+    }
     for (int e : escalas)
         AddItemCombo(f, Index, e);
 }
