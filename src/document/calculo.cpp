@@ -172,6 +172,7 @@ bool Executa(FrmCalcTramelo& f, Execucao& x) {
     const Catalogo& c = catalogo();
     FrmRelatorio& r = *f.Relatorio;
     r.lstRelatorio.clear();
+    r.lstRelatorio.reserve(64); // a report has some fifty lines; a new window's list has none
     SegundaOpiniao(f, x, false);
     f.Campo = 0;
     f.Escala = 0;
