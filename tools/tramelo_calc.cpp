@@ -279,7 +279,7 @@ int main(int argc, char** argv) {
                 }
             };
             if (k > 0) texto += '\n';
-            linhas(r.exportacao);
+            texto += r.exportacao;
             if (iso) {
                 texto += '\n';
                 linhas(tramelo::LinhasIso5167(r.iso));

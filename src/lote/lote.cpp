@@ -169,7 +169,7 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     }
     Execucao x;
     ResultadoCalculo c = cmdCalcular_Click(*f, &x);
-    r.exportacao = LinhasExportacao(*f->Relatorio);
+    AnexaExportacao(*f->Relatorio, r.exportacao);
     // The window goes away below with its report: its lines are taken, not copied.
     r.linhas = std::move(f->Relatorio->lstRelatorio);
     r.concluido = c.fim == FimCalculo::Concluido;

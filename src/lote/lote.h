@@ -22,7 +22,7 @@ struct MensagemLote {
 struct ResultadoLote {
     std::string arquivo;
     std::vector<std::string> linhas;     // the report lines as stored
-    std::vector<std::string> exportacao; // the report as an export writes it
+    std::string exportacao;              // the report as an export writes it, "\n" after each line
     std::vector<MensagemLote> mensagens; // every message and input box, in order
     bool concluido = false;              // the run reached the report window
     std::optional<ErroExecucao> erro;

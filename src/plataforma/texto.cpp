@@ -46,8 +46,12 @@ std::string Left(std::string_view s, int n) {
 }
 
 std::string Mid(std::string_view s, int inicio) {
+    return std::string(MidVista(s, inicio));
+}
+
+std::string_view MidVista(std::string_view s, int inicio) {
     if (inicio < 1) throw Falha(ArgumentoInvalido);
-    return std::string(s.substr(Deslocamento(s, inicio - 1)));
+    return s.substr(Deslocamento(s, inicio - 1));
 }
 
 std::string Mid(std::string_view s, int inicio, int n) {

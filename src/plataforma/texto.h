@@ -16,6 +16,8 @@ std::string Left(std::string_view s, int n);
 
 // From character `inicio` (counted from 1) to the end, or `n` characters.
 std::string Mid(std::string_view s, int inicio);
+// The same, as a view of s: nothing copied.
+std::string_view MidVista(std::string_view s, int inicio);
 std::string Mid(std::string_view s, int inicio, int n);
 
 // n copies of the first character of c. A negative count is failure 5.

@@ -14,4 +14,8 @@ struct FrmRelatorio;
 // from its second character, and a closing line of 78 "=".
 std::vector<std::string> LinhasExportacao(const FrmRelatorio& r);
 
+// The same lines added to `texto`, each followed by "\n": the batch tool
+// prints thousands of reports and copies each line once.
+void AnexaExportacao(const FrmRelatorio& r, std::string& texto);
+
 } // namespace tramelo
