@@ -50,20 +50,22 @@ void SelecionaTexto(CaixaTexto& campo) {
 }
 
 void CriaPasta(const std::string& pasta) {
+    if (ExistePasta(pasta)) return;
     std::error_code ec;
-    if (std::filesystem::is_directory(pasta, ec)) return;
     std::filesystem::create_directories(pasta, ec);
-    if (ec || !std::filesystem::is_directory(pasta, ec)) throw Falha(76);
+    if (ec || !PastaNoDisco(pasta)) throw Falha(76);
 }
 
 bool ExistePasta(const std::string& pasta) {
-    std::error_code ec;
-    return !pasta.empty() && std::filesystem::is_directory(pasta, ec);
+    if (pasta.empty()) return false;
+    FonteArquivos* fonte = ambiente().arquivos;
+    return fonte ? fonte->ExistePasta(pasta) : PastaNoDisco(pasta);
 }
 
 bool ExisteArquivo(const std::string& arquivo) {
-    std::error_code ec;
-    return !arquivo.empty() && std::filesystem::is_regular_file(arquivo, ec);
+    if (arquivo.empty()) return false;
+    FonteArquivos* fonte = ambiente().arquivos;
+    return fonte ? fonte->ExisteArquivo(arquivo) : ArquivoNoDisco(arquivo);
 }
 
 } // namespace tramelo

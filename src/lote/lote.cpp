@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <utility>
+#include <vector>
 
 namespace tramelo {
 namespace {
@@ -61,8 +62,20 @@ class CaixasLote : public Caixas {
     Caixas* anterior_;
 };
 
+// Folders found on the disk during this run. The open of every file makes
+// sure of the "Saves" folder; once it is there, it is taken to stay. A folder
+// that isn't there is asked about again, so a failure repeats as it would.
+bool PastaVista(const std::filesystem::path& pasta) {
+    static std::vector<std::string> vistas;
+    if (std::find(vistas.begin(), vistas.end(), pasta.native()) != vistas.end()) return true;
+    if (!PastaNoDisco(pasta)) return false;
+    if (vistas.size() < 16) vistas.push_back(pasta.native());
+    return true;
+}
+
 // The file of the run as its header check read it: the channel gets those
-// bytes instead of reading the file again, when they are the whole file.
+// bytes instead of reading the file again, when they are the whole file, and
+// whether it is a file is answered from that read.
 class ArquivoJaLido : public FonteArquivos {
   public:
     ArquivoJaLido(std::filesystem::path caminho, ArquivoLido lido, bool inteiro)
@@ -74,15 +87,21 @@ class ArquivoJaLido : public FonteArquivos {
 
     ArquivoLido Le(const std::filesystem::path& caminho) override {
         // Handed over once: a second open of the same file reads it afresh.
-        if (!inteiro_ || caminho != caminho_) return LeArquivoInteiro(caminho);
+        if (!inteiro_ || caminho.native() != caminho_.native()) return LeArquivoInteiro(caminho);
         inteiro_ = false;
         return std::move(lido_);
     }
+    bool ExisteArquivo(const std::filesystem::path& caminho) override {
+        if (caminho.native() == caminho_.native() && regular_) return true;
+        return ArquivoNoDisco(caminho);
+    }
+    bool ExistePasta(const std::filesystem::path& caminho) override { return PastaVista(caminho); }
 
   private:
     std::filesystem::path caminho_;
     ArquivoLido lido_;
     bool inteiro_;
+    bool regular_ = lido_.estado == ArquivoLido::Estado::Lido && lido_.regular;
     FonteArquivos* anterior_;
 };
 

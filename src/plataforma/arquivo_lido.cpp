@@ -12,6 +12,16 @@
 
 namespace tramelo {
 
+bool ArquivoNoDisco(const std::filesystem::path& caminho) {
+    std::error_code ec;
+    return std::filesystem::is_regular_file(caminho, ec);
+}
+
+bool PastaNoDisco(const std::filesystem::path& caminho) {
+    std::error_code ec;
+    return std::filesystem::is_directory(caminho, ec);
+}
+
 #ifndef _WIN32
 
 ArquivoLido LeArquivoInteiro(const std::filesystem::path& caminho, std::size_t limite) {
@@ -37,6 +47,7 @@ ArquivoLido LeArquivoInteiro(const std::filesystem::path& caminho, std::size_t l
     // a short read of a regular file is its end. Anything else (a pipe, a
     // file of /proc) is read until the system says there is no more.
     const bool regular = S_ISREG(st.st_mode);
+    r.regular = regular;
     std::size_t pedido =
         regular && st.st_size >= 0 ? static_cast<std::size_t>(st.st_size) + 1 : 8192;
     r.estado = ArquivoLido::Estado::Lido;
@@ -75,6 +86,7 @@ ArquivoLido LeArquivoInteiro(const std::filesystem::path& caminho, std::size_t l
         return r;
     }
     r.estado = ArquivoLido::Estado::Lido;
+    r.regular = std::filesystem::is_regular_file(caminho, ec);
     char bloco[8192];
     std::size_t n;
     while (r.bytes.size() < limite &&

@@ -1,5 +1,6 @@
 // File channel 1: one file at a time, items in and out in the files' code
 // page, and a save that replaces the earlier file only when it is complete.
+#include "plataforma/arquivo_lido.h"
 #include "plataforma/canal.h"
 #include "plataforma/cp1252.h"
 #include "plataforma/falha.h"
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -160,6 +162,36 @@ TEST_F(PlataformaCanal, GravacaoSubstituiOAnteriorSoAoFecharETabula) {
     canal1().Escreve({});
     canal1().Fecha();
     EXPECT_EQ(LeBytes(Nome("t.txt")), "  abcdef\r\n    x\r\n\r\n");
+}
+
+// A whole-file read tells what it found: the batch tool answers "is it a
+// file?" from it, so a device or a folder must not pass for one.
+TEST(PlataformaArquivoLido, OQueCadaCaminhoE) {
+    PastaTemporaria pasta;
+    std::ofstream(pasta / "t.trl", std::ios::binary) << "abc\r\n";
+    using E = ArquivoLido::Estado;
+    struct Caso {
+        std::string caminho;
+        std::size_t limite;
+        E estado;
+        bool regular;
+        std::string bytes;
+        int erro;
+    };
+    const Caso casos[] = {
+        {pasta / "t.trl", 1000, E::Lido, true, "abc\r\n", 0},
+        {pasta / "t.trl", 2, E::Lido, true, "ab", 0},
+        {"/dev/null", 1000, E::Lido, false, "", 0},
+        {pasta.str(), 1000, E::Pasta, false, "", 0},
+        {pasta / "nada.trl", 1000, E::NaoAbriu, false, "", ENOENT},
+    };
+    for (const Caso& c : casos) {
+        const ArquivoLido lido = LeArquivoInteiro(c.caminho, c.limite);
+        EXPECT_EQ(lido.estado, c.estado) << c.caminho;
+        EXPECT_EQ(lido.regular, c.regular) << c.caminho;
+        EXPECT_EQ(lido.bytes, c.bytes) << c.caminho;
+        EXPECT_EQ(lido.erro, c.erro) << c.caminho;
+    }
 }
 
 // Every byte of the code page has a character and comes back; what the page
