@@ -55,29 +55,6 @@ void FrmCalcTramelo::DefineAlterado(bool v) {
     AtualizaBarra(*this);
 }
 
-Faixa* FrmCalcTramelo::picDados(int i) {
-    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
-    return &linhas[static_cast<size_t>(i)]->picDados;
-}
-
-Rotulo* FrmCalcTramelo::lblDados(int i) {
-    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
-    auto& o = linhas[static_cast<size_t>(i)]->lblDados;
-    return o ? &*o : nullptr;
-}
-
-CaixaTexto* FrmCalcTramelo::txtDados(int i) {
-    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
-    auto& o = linhas[static_cast<size_t>(i)]->txtDados;
-    return o ? &*o : nullptr;
-}
-
-CaixaCombinacao* FrmCalcTramelo::cboDados(int i) {
-    if (i < 0 || i > 30 || !linhas[static_cast<size_t>(i)]) return nullptr;
-    auto& o = linhas[static_cast<size_t>(i)]->cboDados;
-    return o ? &*o : nullptr;
-}
-
 int FrmCalcTramelo::IndiceControleAtivo() const {
     for (const char* prefixo : {"txtDados(", "cboDados("}) {
         const std::string p = prefixo;

@@ -104,10 +104,14 @@ class FrmCalcTramelo {
     int IndiceControleAtivo() const;
 
     // A row's controls; nullptr where the row or the control doesn't exist.
-    Faixa* picDados(int i);
-    Rotulo* lblDados(int i);
-    CaixaTexto* txtDados(int i);
-    CaixaCombinacao* cboDados(int i);
+    // Inline: the routines walk the rows by index many times per file.
+    Faixa* picDados(int i) {
+        Linha* l = LinhaDe(i);
+        return l ? &l->picDados : nullptr;
+    }
+    Rotulo* lblDados(int i) { return Controle(i, &Linha::lblDados); }
+    CaixaTexto* txtDados(int i) { return Controle(i, &Linha::txtDados); }
+    CaixaCombinacao* cboDados(int i) { return Controle(i, &Linha::cboDados); }
     // The same for a query, which only reads.
     const Faixa* picDados(int i) const { return const_cast<FrmCalcTramelo*>(this)->picDados(i); }
     const Rotulo* lblDados(int i) const { return const_cast<FrmCalcTramelo*>(this)->lblDados(i); }
@@ -117,6 +121,16 @@ class FrmCalcTramelo {
     }
 
   private:
+    Linha* LinhaDe(int i) {
+        if (i < 0 || i >= static_cast<int>(linhas.size())) return nullptr;
+        auto& l = linhas[static_cast<size_t>(i)];
+        return l ? &*l : nullptr;
+    }
+    template <class C> C* Controle(int i, std::optional<C> Linha::*membro) {
+        Linha* l = LinhaDe(i);
+        return l && (l->*membro) ? &*(l->*membro) : nullptr;
+    }
+
     bool alterado_ = false;
 };
 
