@@ -2,7 +2,7 @@
 # Installs, with apt-get, the Debian 12 packages the build needs that are missing.
 set -euo pipefail
 pacotes=(build-essential cmake g++ pkg-config libgtest-dev googletest libgmock-dev
-         libbenchmark-dev nlohmann-json3-dev libcli11-dev libfmt-dev
+         libbenchmark-dev nlohmann-json3-dev libcli11-dev libfmt-dev libmimalloc-dev
          qt6-base-dev qt6-translations-l10n libgl-dev xvfb xauth fonts-liberation poppler-utils
          dpkg-dev fakeroot file lintian appstream desktop-file-utils man-db debootstrap
          clang-14 libclang-rt-14-dev
