@@ -6,6 +6,7 @@
 #include "lote/lote.h"
 #include "report/linhas_iso.h"
 #include "report/linhas_verificacao.h"
+#include "base/barras.h"
 #include "base/mod_base.h"
 #include "plataforma/numero.h"
 #include "plataforma/texto.h"
@@ -237,6 +238,8 @@ int main(int argc, char** argv) {
     if (arquivos.empty()) return erro("falta o argumento obrigatório ARQUIVO");
 
     tramelo::DefinePastas(PastaDoPrograma(argv[0]));
+    // No frame here: the windows the run opens keep no toolbars or recent files.
+    tramelo::mdiMenu().mostrado = false;
     tramelo::CarregaCatalogo();
 
     int status = 0;

@@ -77,6 +77,9 @@ struct MdiMenu {
     int WindowState = 0;
     bool Enabled = true; // off while a longer action runs (HabilitaMenu)
     int EstadoAnterior = 0;
+    // False in a program without a frame (the batch tool): no toolbar, menu
+    // or recent-files bookkeeping is kept for its windows.
+    bool mostrado = true;
 
     BarraCool cobBarra;
     BarraFerramentas tbPadrao;  // band 1
@@ -91,7 +94,7 @@ struct MdiMenu {
 };
 
 // The one frame of the program. Tests bring it back to design with
-// `mdiMenu() = MdiMenu{}`.
+// `mdiMenu() = MdiMenu{}`; the batch tool sets `mostrado` false at start.
 MdiMenu& mdiMenu();
 
 // Sets the frame's caption to the program's title.

@@ -1,5 +1,6 @@
 #include "base/recentes.h"
 
+#include "base/barras.h"
 #include "plataforma/texto.h"
 #include "plataforma/notificador.h"
 
@@ -48,6 +49,8 @@ std::array<std::string, 4>& FilesMRU() {
 }
 
 void AdicionaMRU(const std::string& Arquivo) {
+    // A program without a frame has no list of recent files to keep.
+    if (!mdiMenu().mostrado) return;
     auto& f = FilesMRU();
     const std::string alvo = LCase(Arquivo);
     // The first entry keeps its own spelling when the same file comes again.

@@ -193,10 +193,12 @@ void Lista(FrmCalcTramelo& f, bool Habilitado) {
 void AtualizaBarra(FrmCalcTramelo& f) {
     Notifica(Mudanca::Calculo, &f);
     MdiMenu& m = mdiMenu();
-    m.tbCalculo.Habilita("Calcular", f.cmdCalcular.Enabled);
     // A document whose selections aren't all made can't be saved.
     bool salvavel = f.txtTag.Enabled && f.Alterado();
-    m.tbPadrao.Habilita("Salvar", salvavel);
+    if (m.mostrado) {
+        m.tbCalculo.Habilita("Calcular", f.cmdCalcular.Enabled);
+        m.tbPadrao.Habilita("Salvar", salvavel);
+    }
     f.mnuArquivoSalvar.Enabled = salvavel;
     f.mnuArquivoSalvarComo.Enabled = f.txtTag.Enabled;
     f.mnuArquivoSalvarTodos.Enabled = true;

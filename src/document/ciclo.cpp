@@ -125,7 +125,7 @@ FrmCalcTramelo* AbreCalculo(bool Abrir, std::string& Arquivo) {
         // Shown on top, the new window is the active one.
         AtivaFilho({f, nullptr});
         if (JanelasCalculo* j = janelasCalculo()) j->Mostra(*f);
-        Atualiza(mdiMenu());
+        if (mdiMenu().mostrado) Atualiza(mdiMenu());
         return f;
     } catch (const std::bad_alloc&) {
         // No half-built calculation stays behind.

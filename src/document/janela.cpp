@@ -44,6 +44,7 @@ void Form_Activate(FrmCalcTramelo& f) {
 
 void Form_Deactivate(const FrmCalcTramelo&) {
     MdiMenu& m = mdiMenu();
+    if (!m.mostrado) return;
     m.tbCalculo.Habilita("Calcular", false);
     m.tbCalculo.Habilita("Calculadora", false);
     m.tbPadrao.Habilita("Salvar", false);

@@ -7,8 +7,10 @@ namespace tramelo {
 
 void Relatorio_Activate(FrmRelatorio& r) {
     MdiMenu& m = mdiMenu();
-    m.tbCalculo.Habilita("Imprimir", true);
-    m.tbCalculo.Habilita("Exportar", true);
+    if (m.mostrado) {
+        m.tbCalculo.Habilita("Imprimir", true);
+        m.tbCalculo.Habilita("Exportar", true);
+    }
     r.mnuExibirStatusBar.Checked = m.sbStatusBar.Visible;
     r.mnuExibirBarraPadrao.Checked = m.cobBarra.Bands(1).Visible;
     r.mnuExibirBarraCalculo.Checked = m.cobBarra.Bands(2).Visible;
@@ -16,6 +18,7 @@ void Relatorio_Activate(FrmRelatorio& r) {
 
 void Relatorio_Deactivate(FrmRelatorio&) {
     MdiMenu& m = mdiMenu();
+    if (!m.mostrado) return;
     m.tbCalculo.Habilita("Imprimir", false);
     m.tbCalculo.Habilita("Exportar", false);
 }
