@@ -53,6 +53,11 @@ std::vector<std::string> LinhasExportacao(const FrmRelatorio& r) {
 }
 
 void AnexaExportacao(const FrmRelatorio& r, std::string& texto) {
+    // Measured first, so the text grows once.
+    std::size_t tamanho = texto.size();
+    Percorre(
+        r, [&](std::string_view pedaco) { tamanho += pedaco.size(); }, [&] { ++tamanho; });
+    texto.reserve(tamanho);
     Percorre(
         r, [&](std::string_view pedaco) { texto += pedaco; }, [&] { texto += '\n'; });
 }
