@@ -65,11 +65,11 @@ class CaixasLote : public Caixas {
 // Folders found on the disk during this run. The open of every file makes
 // sure of the "Saves" folder; once it is there, it is taken to stay. A folder
 // that isn't there is asked about again, so a failure repeats as it would.
-bool PastaVista(const std::filesystem::path& pasta) {
+bool PastaVista(const std::string& pasta) {
     static std::vector<std::string> vistas;
-    if (std::find(vistas.begin(), vistas.end(), pasta.native()) != vistas.end()) return true;
+    if (std::find(vistas.begin(), vistas.end(), pasta) != vistas.end()) return true;
     if (!PastaNoDisco(pasta)) return false;
-    if (vistas.size() < 16) vistas.push_back(pasta.native());
+    if (vistas.size() < 16) vistas.push_back(pasta);
     return true;
 }
 
@@ -91,11 +91,11 @@ class ArquivoJaLido : public FonteArquivos {
         inteiro_ = false;
         return std::move(lido_);
     }
-    bool ExisteArquivo(const std::filesystem::path& caminho) override {
-        if (caminho.native() == caminho_.native() && regular_) return true;
-        return ArquivoNoDisco(caminho);
+    bool ExisteArquivo(const std::string& nome) override {
+        if (regular_ && nome == caminho_.native()) return true;
+        return ArquivoNoDisco(nome);
     }
-    bool ExistePasta(const std::filesystem::path& caminho) override { return PastaVista(caminho); }
+    bool ExistePasta(const std::string& nome) override { return PastaVista(nome); }
 
   private:
     std::filesystem::path caminho_;

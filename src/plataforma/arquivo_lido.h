@@ -33,8 +33,9 @@ class FonteArquivos {
   public:
     virtual ~FonteArquivos() = default;
     virtual ArquivoLido Le(const std::filesystem::path& caminho) = 0;
-    virtual bool ExisteArquivo(const std::filesystem::path& caminho) { return ArquivoNoDisco(caminho); }
-    virtual bool ExistePasta(const std::filesystem::path& caminho) { return PastaNoDisco(caminho); }
+    // Names as the routines hold them: most answers need no path built.
+    virtual bool ExisteArquivo(const std::string& nome) { return ArquivoNoDisco(nome); }
+    virtual bool ExistePasta(const std::string& nome) { return PastaNoDisco(nome); }
 };
 
 } // namespace tramelo
