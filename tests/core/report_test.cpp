@@ -16,7 +16,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <string>
 #include <tuple>
 
 namespace tramelo::teste {
@@ -41,6 +43,28 @@ TEST(Report, ArredondaPelaPotenciaLida) {
     };
     for (const auto& c : casos)
         EXPECT_EQ(Arredonda(c.x, c.digitos).valor(), c.esperado) << c.x << " " << c.digitos;
+    // Every power the divisor table holds: x = 1.2345678901e(3 - m) to three
+    // digits, m = -22 to 22, by the same Python formula.
+    const double porPotencia[] = {
+        1.235e+25, 1.235e+24, 1.2350000000000001e+23, 1.235e+22,
+        1.235e+21, 1.2349999999999998e+20, 1.235e+19, 1.235e+18,
+        1.235e+17, 1.235e+16, 1235000000000000.0, 123500000000000.0,
+        12350000000000.0, 1235000000000.0, 123500000000.0, 12350000000.0,
+        1235000000.0, 123499999.99999999, 12350000.0, 1235000.0,
+        123500.0, 12350.0, 1235.0, 123.5,
+        12.35, 1.235, 0.1235, 0.01235,
+        0.001235, 0.0001235, 1.235e-05, 1.235e-06,
+        1.235e-07, 1.235e-08, 1.235e-09, 1.235e-10,
+        1.235e-11, 1.235e-12, 1.235e-13, 1.235e-14,
+        1.235e-15, 1.235e-16, 1.235e-17, 1.235e-18,
+        1.235e-19,
+    };
+    for (int m = -22; m <= 22; ++m) {
+        const std::string texto = "1.2345678901e" + std::to_string(3 - m);
+        double x = 0;
+        std::from_chars(texto.data(), texto.data() + texto.size(), x);
+        EXPECT_EQ(Arredonda(x, 3).valor(), porPotencia[m + 22]) << m;
+    }
 }
 
 TEST(Report, HoraEDataDoBotao) {
