@@ -15,8 +15,9 @@ bool Digito(char c) { return c >= '0' && c <= '9'; }
 
 // The significant digits of x > 0 rounded to `digitos`, from its shortest
 // round-trip text, which is fast. That text is the nearest of its length to x,
-// so rounding it gives the rounding of x itself, except on a tie ("5" or
-// "50" after the kept digits): then the caller rounds the exact value.
+// so rounding it gives the rounding of x itself, except on a tie: a lone "5"
+// after the kept digits (the text has no trailing zeros, so "50" can't be).
+// Then the caller rounds the exact value.
 bool Digitos(double x, int digitos, char* mantissa, int& n, int& expoente) {
     char buf[64];
     auto [fim, ec] = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::scientific);
@@ -29,7 +30,7 @@ bool Digitos(double x, int digitos, char* mantissa, int& n, int& expoente) {
     if (n <= digitos) return true;
     const char* resto = mantissa + digitos;
     const int nResto = n - digitos;
-    if (resto[0] == '5' && (nResto == 1 || (nResto == 2 && resto[1] == '0'))) return false;
+    if (nResto == 1 && resto[0] == '5') return false;
     const bool sobe = resto[0] >= '5';
     n = digitos;
     if (sobe) {
