@@ -153,6 +153,16 @@ TEST(SizingCasos, FigurasTrabalhadas) {
         EXPECT_NEAR((x.Beta * 102.26).valor(), 61.8296, 5e-5);
         EXPECT_NEAR(x.ReynoldsLimite.valor(), 48599.425, 5e-4);
     }
+    // The same water given as relative density, 998 / 999,08 at 15 digits:
+    // both densities come back to kg/m³, and so does the same Beta.
+    {
+        auto r = CalculoPronto(0, 1);
+        r->cboMassaDensidade.DefineListIndex(1);
+        Preenche(*r, Com(Agua, {{17, "0,998919005485046"}, {18, "0,998919005485046"}}));
+        Execucao x;
+        ASSERT_EQ(cmdCalcular_Click(*r, &x).fim, FimCalculo::Concluido);
+        EXPECT_NEAR(x.Beta.valor(), betas[0], 5e-10);
+    }
     // Dry air, 500 kPa, 40 ºC, 1000 M³/h read at 0 ºC, "Outro material" at exactly 1.
     auto f = CalculoPronto(1, 1);
     caixas.textos = {""};
