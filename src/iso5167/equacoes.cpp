@@ -39,29 +39,49 @@ double VazaoMassica(double C, double epsilo, double beta, double d_mm, double dp
 }
 
 double CoeficienteDescarga(double b, double ReD, double D_mm, int Tomada) {
-    double L1 = 0, L2 = 0;
-    DistanciasTomada(Tomada, D_mm, L1, L2);
-    const double A = std::pow((ReA * b) / ReD, 0.8);
-    const double M2 = (2 * L2) / (1 - b);
+    return CoeficienteDescarga(b, TermosDoPonto(ReD, D_mm, Tomada));
+}
+
+TermosC TermosDoPonto(double ReD, double D_mm, int Tomada) {
+    double L1 = 0;
+    TermosC t;
+    DistanciasTomada(Tomada, D_mm, L1, t.L2);
+    t.ReD = ReD;
+    t.D_mm = D_mm;
+    t.tomadas = Ct0 + Ct1 * std::exp(-Ct1e * L1) - Ct2 * std::exp(-Ct2e * L1);
+    t.re03 = std::pow(1e6 / ReD, 0.3);
+    return t;
+}
+
+double CoeficienteDescarga(double b, const TermosC& t) {
+    const double A = std::pow((ReA * b) / t.ReD, 0.8);
+    const double M2 = (2 * t.L2) / (1 - b);
     // Whole powers by products: pow costs as much as the rest of the line,
     // and the products are within two ULPs of it.
     const double b2 = b * b;
     const double b4 = b2 * b2;
-    double C = C0 + Cb2 * b * b - Cb8 * (b4 * b4) + CRe * std::pow((1e6 * b) / ReD, 0.7) +
-               (CA1 + CA2 * A) * std::pow(b, 3.5) * std::pow(1e6 / ReD, 0.3) +
-               (Ct0 + Ct1 * std::exp(-Ct1e * L1) - Ct2 * std::exp(-Ct2e * L1)) * (1 - CtA * A) *
-                   (b4 / (1 - b4)) -
+    double C = C0 + Cb2 * b * b - Cb8 * (b4 * b4) + CRe * std::pow((1e6 * b) / t.ReD, 0.7) +
+               (CA1 + CA2 * A) * std::pow(b, 3.5) * t.re03 +
+               t.tomadas * (1 - CtA * A) * (b4 / (1 - b4)) -
                Cd * (M2 - CdM * std::pow(M2, 1.1)) * std::pow(b, 1.3);
-    if (D_mm < DPequeno) C = C + CPequeno * (0.75 - b) * (2.8 - D_mm / PolegadaMm);
+    if (t.D_mm < DPequeno) C = C + CPequeno * (0.75 - b) * (2.8 - t.D_mm / PolegadaMm);
     return C;
 }
 
-double Expansibilidade(int Fluido, double b, double dp, double p1, double kappa) {
-    if (Fluido == 0) return 1;
+double TermoPressao(int Fluido, double dp, double p1, double kappa) {
+    if (Fluido == 0) return 0;
     const double razao = (p1 - dp) / p1;
+    return 1 - std::pow(razao, 1 / kappa);
+}
+
+double Expansibilidade(int Fluido, double b, double termoPressao) {
+    if (Fluido == 0) return 1;
     const double b4 = (b * b) * (b * b);
-    return 1 - (E0 + Eb4 * b4 + Eb8 * (b4 * b4)) *
-                   (1 - std::pow(razao, 1 / kappa));
+    return 1 - (E0 + Eb4 * b4 + Eb8 * (b4 * b4)) * termoPressao;
+}
+
+double Expansibilidade(int Fluido, double b, double dp, double p1, double kappa) {
+    return Expansibilidade(Fluido, b, TermoPressao(Fluido, dp, p1, kappa));
 }
 
 // Δϖ = (√(1 − β⁴(1 − C²)) − Cβ²) / (√(1 − β⁴(1 − C²)) + Cβ²) · Δp.

@@ -55,8 +55,22 @@ double VazaoMassica(double C, double epsilo, double beta, double d_mm, double dp
 // ISO 5167-2:2003, §5.3.2.1, Equation (4), with the small-pipe term.
 double CoeficienteDescarga(double beta, double ReD, double D_mm, int Tomada);
 
+// What Equation (4) takes from the point and not from β, worked out once for
+// an iteration on β; the two-argument form gives the four-argument one's
+// figures to the bit.
+struct TermosC {
+    double ReD = 0, D_mm = 0, L2 = 0;
+    double tomadas = 0; // 0,043 + 0,080 e^(−10 L1) − 0,123 e^(−7 L1)
+    double re03 = 0;    // (10⁶ / ReD)^0,3
+};
+TermosC TermosDoPonto(double ReD, double D_mm, int Tomada);
+double CoeficienteDescarga(double beta, const TermosC& t);
+
 // ISO 5167-2:2003, §5.3.2.2, Equation (5); 1 for a liquid (Fluido 0).
 double Expansibilidade(int Fluido, double beta, double dp, double p1, double kappa);
+// The same with its pressure term 1 − (p2/p1)^(1/κ) worked out once.
+double TermoPressao(int Fluido, double dp, double p1, double kappa);
+double Expansibilidade(int Fluido, double beta, double termoPressao);
 
 // ISO 5167-2:2003, §5.4.1: the permanent pressure loss, Pa.
 double PerdaPermanente(double beta, double C, double dp);

@@ -24,10 +24,13 @@ bool DiametroOrificio(const EntradaIso& e, ResultadoIso& r) {
     const double D = e.D_mm / 1000;
     const double A2 = (4 * e.qm) / (std::numbers::pi * D * D * std::sqrt(2 * e.dp * e.rho1));
     double C = 0, eps = 0;
+    // What C and ε take from the point, once for the whole iteration.
+    const iso::TermosC termos = iso::TermosDoPonto(r.ReD, e.D_mm, e.Tomada);
+    const double pressao = iso::TermoPressao(e.Fluido, e.dp, e.p1, e.kappa);
     // δ at β, with the C and ε it takes; false where they aren't physical.
     auto Delta = [&](double b, double& delta) {
-        C = iso::CoeficienteDescarga(b, r.ReD, e.D_mm, e.Tomada);
-        eps = iso::Expansibilidade(e.Fluido, b, e.dp, e.p1, e.kappa);
+        C = iso::CoeficienteDescarga(b, termos);
+        eps = iso::Expansibilidade(e.Fluido, b, pressao);
         if (!Positivo(C) || !Positivo(eps)) return false;
         const double b2 = b * b;
         delta = A2 - (C * eps * b2) / std::sqrt(1 - b2 * b2);
