@@ -62,6 +62,7 @@ std::string Mid(std::string_view s, int inicio, int n) {
 std::string String(int n, std::string_view c) {
     if (n < 0 || c.empty()) throw Falha(ArgumentoInvalido);
     std::string_view primeiro = c.substr(0, Deslocamento(c, 1));
+    if (primeiro.size() == 1) return std::string(static_cast<size_t>(n), primeiro[0]);
     std::string r;
     r.reserve(static_cast<size_t>(n) * primeiro.size());
     for (int i = 0; i < n; ++i) r += primeiro;

@@ -5,12 +5,22 @@
 
 namespace tramelo {
 
-FrmRelatorio::FrmRelatorio() {
-    std::string s = " Descrição";
-    s += String(35 - Len("Descrição"), " ") + "Valor";
-    s += String(79 - Len(s) - Len("Escala"), " ") + "Escala";
-    lblMenu = std::move(s);
+namespace {
+
+// The heading over the report's columns, the same for every report.
+const std::string& CabecalhoColunas() {
+    static const std::string cabecalho = [] {
+        std::string s = " Descrição";
+        s += String(35 - Len("Descrição"), " ") + "Valor";
+        s += String(79 - Len(s) - Len("Escala"), " ") + "Escala";
+        return s;
+    }();
+    return cabecalho;
 }
+
+} // namespace
+
+FrmRelatorio::FrmRelatorio() : lblMenu(CabecalhoColunas()) {}
 
 void FrmRelatorio::Show() {
     Visible = true;
