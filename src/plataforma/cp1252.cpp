@@ -88,9 +88,14 @@ std::string ParaCp1252(std::string_view utf8) {
 }
 
 std::string DeCp1252(std::string_view bytes) {
+    // Most items are plain ASCII, the same bytes in both: copied whole up to
+    // the first byte that isn't.
+    std::size_t ascii = 0;
+    while (ascii < bytes.size() && static_cast<unsigned char>(bytes[ascii]) < 0x80) ++ascii;
     std::string saida;
-    saida.reserve(bytes.size() + bytes.size() / 8);
-    for (char b : bytes)
+    saida.reserve(bytes.size() + (bytes.size() - ascii) / 2);
+    saida.append(bytes.data(), ascii);
+    for (char b : bytes.substr(ascii))
         AcrescentaUtf8(saida, CaractereDoByte(static_cast<unsigned char>(b)));
     return saida;
 }
