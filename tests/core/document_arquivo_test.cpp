@@ -98,6 +98,7 @@ TEST_F(DocumentArquivo, TabelaDeFalhas) {
     TrameloSave(*f, true, ok);
     EXPECT_EQ(caixas.mostradas.at(0).titulo, "Informação de Erro Código :76");
     EXPECT_TRUE(f->ArquivoCalculo == "antes" && f->Alterado());
+    EXPECT_FALSE(ok); // a caller that closes on a good save must not close
 
     // A missing file: "Arquivo não encontrado".
     auto h = Abre(pasta / "falta.trl");

@@ -179,6 +179,18 @@ TEST(SizingCasos, FigurasTrabalhadas) {
     EXPECT_NEAR(x.Beta.valor(), 0.46165886, 5e-9);
     EXPECT_NEAR(x.Epsilo.valor(), 0.99610607, 5e-9);
     EXPECT_NEAR(x.CoefAlvo.valor(), 0.13155333, 5e-9);
+    // "Outro material" with its factor left empty stops the run on that
+    // field, as any empty field does.
+    auto g = CalculoPronto(1, 1);
+    caixas.textos = {""};
+    g->cboDados(29)->DefineListIndex(1);
+    Preenche(*g, Com(Ar, {{29, ""}}));
+    caixas.mostradas.clear();
+    EXPECT_EQ(cmdCalcular_Click(*g).fim, FimCalculo::Interrompido);
+    ASSERT_FALSE(caixas.mostradas.empty());
+    EXPECT_EQ(caixas.mostradas.back().texto,
+              "O campo 'Fator do material utilizado' não foi preenchido");
+    EXPECT_EQ(g->foco, "txtDados(29)");
 }
 
 // The tap equations where no report reaches: the limit's floor, tap 5 and
