@@ -108,6 +108,7 @@ TEST(CalculatorTeclas, ColaDigitaOTextoDoCampo) {
     const std::tuple<const char*, const char*, const char*, bool> casos[] = {
         {"", "0,", "NONE", false},   {"1,,5", "1,5", "NUMS", false}, {"-5", "0,", "NONE", true},
         {"12.5", "12,", "NUMS", true}, {"5º", "5,", "NUMS", true},
+        {"90,05", "90,05", "NUMS", false}, // the first and last digits are digits too
     };
     for (const auto& [texto, display, ultima, falha] : casos) {
         Calculadora c;
