@@ -10,6 +10,8 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <sstream>
 #include <tuple>
 #include <string>
@@ -266,6 +268,18 @@ TEST_F(ShellLote, PropriedadesDaAguaEDoVapor) {
     const Saida letras = Executa("--propriedades abc 250");
     EXPECT_EQ(std::tie(letras.status, letras.saida, letras.erros),
               std::make_tuple(1, std::string(), std::string("Propriedades da água e do vapor: A pressão “abc” não é um número.\n")));
+}
+
+// A copy of the tool in a folder it may write to keeps its data there, as
+// the desktop program does: opening the files makes the "Saves" folder once.
+TEST_F(ShellLote, PastaSavesAoLadoDoPrograma) {
+    const std::string copia = pasta / "tramelo-calc";
+    std::filesystem::copy_file(TRAMELO_CALC, copia);
+    const std::string comando = "XDG_DATA_HOME=" + pasta / "dados" + " XDG_CONFIG_HOME=" +
+                                pasta / "dados" + " " + copia + " " + Exemplo("agua.trl") + " " +
+                                Exemplo("agua.trl") + " > /dev/null 2>&1";
+    EXPECT_EQ(std::system(comando.c_str()), 0);
+    EXPECT_TRUE(std::filesystem::is_directory(pasta / "Saves"));
 }
 
 TEST_F(ShellLote, StatusDeSaida) {
