@@ -179,18 +179,32 @@ TEST(SizingCasos, FigurasTrabalhadas) {
     EXPECT_NEAR(x.Beta.valor(), 0.46165886, 5e-9);
     EXPECT_NEAR(x.Epsilo.valor(), 0.99610607, 5e-9);
     EXPECT_NEAR(x.CoefAlvo.valor(), 0.13155333, 5e-9);
-    // "Outro material" with its factor left empty stops the run on that
-    // field, as any empty field does.
-    auto g = CalculoPronto(1, 1);
-    caixas.textos = {""};
-    g->cboDados(29)->DefineListIndex(1);
-    Preenche(*g, Com(Ar, {{29, ""}}));
-    caixas.mostradas.clear();
-    EXPECT_EQ(cmdCalcular_Click(*g).fim, FimCalculo::Interrompido);
-    ASSERT_FALSE(caixas.mostradas.empty());
-    EXPECT_EQ(caixas.mostradas.back().texto,
-              "O campo 'Fator do material utilizado' não foi preenchido");
-    EXPECT_EQ(g->foco, "txtDados(29)");
+}
+
+// A field left empty stops the run on it, whichever reading routine reads
+// it: the viscosity with its unit, the factor of "Outro material".
+TEST(SizingCasos, CampoVazioParaNele) {
+    const struct {
+        int fluido, linha;
+        const char* rotulo;
+        bool outroMaterial;
+    } casos[] = {
+        {0, 20, "Viscosidade dinâmica (proj)", false},
+        {1, 29, "Fator do material utilizado", true},
+    };
+    for (const auto& c : casos) {
+        CaixasRoteiro caixas;
+        auto f = CalculoPronto(c.fluido, 1);
+        caixas.textos = {""};
+        if (c.outroMaterial) f->cboDados(29)->DefineListIndex(1);
+        Preenche(*f, Com(c.fluido == 0 ? Agua : Ar, {{c.linha, ""}}));
+        caixas.mostradas.clear();
+        EXPECT_EQ(cmdCalcular_Click(*f).fim, FimCalculo::Interrompido) << c.linha;
+        ASSERT_FALSE(caixas.mostradas.empty()) << c.linha;
+        EXPECT_EQ(caixas.mostradas.back().texto,
+                  std::string("O campo '") + c.rotulo + "' não foi preenchido");
+        EXPECT_EQ(f->foco, "txtDados(" + std::to_string(c.linha) + ")");
+    }
 }
 
 // The tap equations where no report reaches: the limit's floor, tap 5 and
