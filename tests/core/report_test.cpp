@@ -77,7 +77,13 @@ TEST(Report, HoraEDataDoBotao) {
     r.txtData = "texto digitado";
     cmdAgora_Click(r);
     EXPECT_EQ(r.txtData, "07:05 - segunda-feira, 23 de novembro de 2026");
+    // Two-digit hours, minutes, days and months; 20/01/2026 is a Tuesday
+    // (Python 3.11: date(2026, 1, 20).weekday() is 1, Monday being 0).
+    relogio.m = {2026, 1, 20, 20, 53, 0, 2};
+    cmdAgora_Click(r);
+    EXPECT_EQ(r.txtData, "20:53 - terça-feira, 20 de janeiro de 2026");
     EXPECT_EQ(DataCurta({2027, 3, 6, 23, 59, 0, 6}), "06/03/2027");
+    EXPECT_EQ(DataCurta({2026, 10, 30, 10, 0, 0, 5}), "30/10/2026");
     ambiente().relogio = anterior;
 }
 
