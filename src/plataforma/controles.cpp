@@ -25,7 +25,7 @@ void CaixaCombinacao::DefineListIndex(int i) {
 }
 
 void CaixaCombinacao::AddItem(std::string texto, int itemData) {
-    itens.emplace_back(std::move(texto), itemData);
+    itens.push_back({std::move(texto), itemData});
 }
 
 void CaixaCombinacao::Clear() {
