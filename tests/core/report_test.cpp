@@ -67,6 +67,13 @@ TEST(Report, ArredondaPelaPotenciaLida) {
     }
 }
 
+// The column heading: "Valor" from column 36, "Escala" ending at the 79th
+// character, over the report's columns.
+TEST(Report, CabecalhoDasColunas) {
+    EXPECT_EQ(FrmRelatorio().lblMenu,
+              " Descrição" + std::string(26, ' ') + "Valor" + std::string(32, ' ') + "Escala");
+}
+
 TEST(Report, HoraEDataDoBotao) {
     struct RelogioFixo : Relogio {
         Momento m{2026, 11, 23, 7, 5, 0, 1};
