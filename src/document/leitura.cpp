@@ -153,25 +153,25 @@ bool LeDado(FrmCalcTramelo& f, Execucao& x) {
 void ConverteUnidades(FrmCalcTramelo& f, Execucao& x) {
     auto& d = x.Dados;
     // "mmCA" goes by the water column at 4 ºC, "Kg/m²" by standard gravity.
-    if (x.EscalaPerda == 2) d[5] = d[5].Numero() * 9.79763;
-    if (x.EscalaPerda == 1) d[5] = (d[5].Numero() * 98.0665) / 10;
+    if (x.EscalaPerda == 2) d[5] = d[5].Numero() * PaPorMmca;
+    if (x.EscalaPerda == 1) d[5] = (d[5].Numero() * KPaPorKgCm2) / 10;
     // The three pressure lists always stand on one unit.
     f.Campo = 10;
     LeEscala(f);
     if (f.Escala != 1) {
-        d[10] = d[10].Numero() * 98.0665;
-        d[12] = d[12].Numero() * 98.0665;
-        d[14] = d[14].Numero() * 98.0665;
+        d[10] = d[10].Numero() * KPaPorKgCm2;
+        d[12] = d[12].Numero() * KPaPorKgCm2;
+        d[14] = d[14].Numero() * KPaPorKgCm2;
     }
     CaixaCombinacao* visc = f.cboDados(20);
     if (visc && visc->ListIndex() == 1) d[20] = d[20].Numero() * 1000;
     // Relative density to kg/m³ by water at 4 ºC; density at 0 ºC to
     // relative density by air at 0 ºC.
     if (f.cboMassaDensidade.ListIndex() != 0) {
-        d[17] = d[17].Numero() * 999.08;
-        d[18] = d[18].Numero() * 999.08;
+        d[17] = d[17].Numero() * MassaEspecificaAgua4C;
+        d[18] = d[18].Numero() * MassaEspecificaAgua4C;
     }
-    if (f.cboMassaDensidade.ListIndex() != 1) d[19] = d[19].Numero() / 1.29307;
+    if (f.cboMassaDensidade.ListIndex() != 1) d[19] = d[19].Numero() / MassaEspecificaAr0C;
 }
 
 bool LeCampos(FrmCalcTramelo& f, Execucao& x) {

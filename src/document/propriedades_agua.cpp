@@ -4,6 +4,7 @@
 #include "document/frm_calc_tramelo.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/numero.h"
+#include "sizing/catalogo.h"
 
 #include <cctype>
 #include <cmath>
@@ -14,10 +15,6 @@ namespace tramelo {
 namespace {
 
 constexpr const char* Titulo = "Propriedades da água e do vapor";
-// The program's own scales, as "Calcular" converts the rows back: standard
-// gravity for "Kg/cm²" and 999,08 kg/m³ for a relative density.
-constexpr double KPaPorKgCm2 = 98.0665;
-constexpr double MassaEspecificaReferencia = 999.08;
 constexpr double AtmosferaKPa = 101.325;
 constexpr int Digitos = 6;
 constexpr int Liquido = 0, Gas = 1, Vapor = 2;
@@ -192,7 +189,7 @@ Aplicacao AplicaPropriedadesAgua(FrmCalcTramelo& f, const PontoDigitado& ponto) 
         textos.emplace_back(9, NumeroParaTexto(p.T_C));
     const bool relativa = f.cboMassaDensidade.ListIndex() != 0;
     auto densidade = [relativa](const PropriedadesAgua& r) {
-        return Texto(relativa ? r.massa_especifica / MassaEspecificaReferencia : r.massa_especifica);
+        return Texto(relativa ? r.massa_especifica / MassaEspecificaAgua4C : r.massa_especifica);
     };
     if (liquido) {
         if (LinhaEmUso(f, 17)) {

@@ -20,6 +20,14 @@ struct Catalogo {
     std::string Separa;   // separator
 };
 
+// The conversions "Calcular" makes to bring the rows to its working units:
+// a water column at 4 ºC, standard gravity, the density of water at 4 ºC
+// for a relative density, of air at 0 ºC for a gas's.
+inline constexpr double PaPorMmca = 9.79763;            // "mmCA" to Pa
+inline constexpr double KPaPorKgCm2 = 98.0665;          // "Kg/cm²" to kPa; a tenth of it, "Kg/m²" to Pa
+inline constexpr double MassaEspecificaAgua4C = 999.08; // kg/m³
+inline constexpr double MassaEspecificaAr0C = 1.29307;  // kg/m³
+
 // The program's catalogue, shared by all calculations.
 Catalogo& catalogo();
 

@@ -29,7 +29,7 @@ EntradaIso EntradaIso5167(const Execucao& x, int Fluido, int Placa, int Tomada, 
     const Catalogo& c = catalogo();
     const size_t escala = static_cast<size_t>(x.EscalaPerda + 5);
     if (escala < c.NomeEscalas.size()) e.unidade_dp = c.NomeEscalas[escala];
-    e.pa_por_unidade_dp = x.EscalaPerda == 2 ? 9.79763 : x.EscalaPerda == 1 ? 98.0665 / 10 : 1;
+    e.pa_por_unidade_dp = x.EscalaPerda == 2 ? PaPorMmca : x.EscalaPerda == 1 ? KPaPorKgCm2 / 10 : 1;
     return e;
 }
 
