@@ -246,14 +246,17 @@ int main(int argc, char** argv) {
     nlohmann::json saida = nlohmann::json::array();
     // The text goes out in large pieces: a report is some fifty short lines.
     std::string texto;
+    auto despeja = [&texto] {
+        std::cout.write(texto.data(), static_cast<std::streamsize>(texto.size()));
+        texto.clear();
+    };
     for (size_t k = 0; k < arquivos.size(); ++k) {
         const tramelo::ResultadoLote r = tramelo::CalculaArquivo(arquivos[k], sim);
         status = std::max(status, r.status);
         // The reports before a file's messages go out before them.
         if (!r.mensagens.empty() && !texto.empty()) {
-            std::cout.write(texto.data(), static_cast<std::streamsize>(texto.size()));
+            despeja();
             std::cout.flush();
-            texto.clear();
         }
         for (const auto& m : r.mensagens)
             std::cerr << UmaLinha(m.titulo) << ": " << UmaLinha(m.texto) << "\n";
@@ -291,13 +294,10 @@ int main(int argc, char** argv) {
                 texto += '\n';
                 linhas(tramelo::LinhasVerificacao(Verifica(r, verifica, faixa), r.ponto));
             }
-            if (texto.size() >= 64 * 1024) {
-                std::cout.write(texto.data(), static_cast<std::streamsize>(texto.size()));
-                texto.clear();
-            }
+            if (texto.size() >= 64 * 1024) despeja();
         }
     }
-    std::cout.write(texto.data(), static_cast<std::streamsize>(texto.size()));
+    despeja();
     if (json)
         std::cout << saida.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
     std::cout.flush();

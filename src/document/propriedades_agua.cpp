@@ -185,7 +185,7 @@ Aplicacao AplicaPropriedadesAgua(FrmCalcTramelo& f, const PontoDigitado& ponto) 
 
     // Every row's text is worked out first, so a refusal writes nothing.
     std::vector<std::pair<int, std::string>> textos;
-    if (!NumeroDaLinha(f, 9) || *NumeroDaLinha(f, 9) != p.T_C)
+    if (NumeroDaLinha(f, 9) != p.T_C)
         textos.emplace_back(9, NumeroParaTexto(p.T_C));
     const bool relativa = f.cboMassaDensidade.ListIndex() != 0;
     auto densidade = [relativa](const PropriedadesAgua& r) {

@@ -161,9 +161,8 @@ ResultadoLote CalculaArquivo(const std::string& arquivo, bool sim) {
     // One read gives the header and tells a folder. A file that can't be
     // read here goes on to the open, which tells why.
     ArquivoLido lido = LeArquivoInteiro(caminho, BytesDoCabecalho);
-    std::error_code ec;
     if (lido.estado == ArquivoLido::Estado::Pasta ||
-        (lido.estado == ArquivoLido::Estado::NaoAbriu && std::filesystem::is_directory(caminho, ec))) {
+        (lido.estado == ArquivoLido::Estado::NaoAbriu && PastaNoDisco(caminho))) {
         r.arquivoDeCalculo = false;
         r.status = 3;
         MsgBox("É uma pasta, não um arquivo de cálculo", vbExclamation, "Arquivo: " + arquivo);

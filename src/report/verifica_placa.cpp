@@ -4,7 +4,7 @@
 #include "plataforma/notificador.h"
 #include "plataforma/numero.h"
 #include "report/frm_relatorio.h"
-#include "report/linhas.h"
+#include "report/linhas_iso.h"
 
 #include <cmath>
 
@@ -61,7 +61,7 @@ double PressaoNaUnidade(const PontoDeProjeto& p, double Pa) {
 
 std::string DiametroProposto(const PontoDeProjeto& p) {
     if (!p.iso.concluido || !(p.iso.d_legado_mm > 0) || !std::isfinite(p.iso.d_legado_mm)) return {};
-    return NumeroParaTexto(Arredonda(Num(p.iso.d_legado_mm), 4).valor());
+    return Arredondado(p.iso.d_legado_mm, 4);
 }
 
 std::string PorcentagensPropostas() {
