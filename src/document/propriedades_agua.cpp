@@ -4,6 +4,7 @@
 #include "document/frm_calc_tramelo.h"
 #include "plataforma/ambiente.h"
 #include "plataforma/numero.h"
+#include "plataforma/texto.h"
 #include "sizing/catalogo.h"
 
 #include <cctype>
@@ -87,11 +88,11 @@ PontoAgua LePontoAgua(const PontoDigitado& d) {
     if (d.escala != 0 && d.escala != 1)
         p.erro = "Escolha a unidade da pressão: kPa ou Kg/cm².";
     else if (!pressao)
-        p.erro = d.pressao.find_first_not_of(" \t") == std::string::npos
+        p.erro = EmBranco(d.pressao)
                      ? "Digite a pressão absoluta."
                      : "A pressão “" + d.pressao + "” não é um número.";
     else if (!temperatura)
-        p.erro = d.temperatura.find_first_not_of(" \t") == std::string::npos
+        p.erro = EmBranco(d.temperatura)
                      ? "Digite a temperatura."
                      : "A temperatura “" + d.temperatura + "” não é um número.";
     if (!p.erro.empty()) return p;

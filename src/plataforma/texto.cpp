@@ -40,6 +40,10 @@ int Len(std::string_view s) {
     return static_cast<int>(s.size() - continuacoes);
 }
 
+bool EmBranco(std::string_view s) {
+    return s.find_first_not_of(" \t") == std::string_view::npos;
+}
+
 std::string Left(std::string_view s, int n) {
     if (n < 0) throw Falha(ArgumentoInvalido);
     return std::string(s.substr(0, Deslocamento(s, n)));

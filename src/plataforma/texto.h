@@ -26,6 +26,9 @@ std::string String(int n, std::string_view c);
 // Position (from 1) of the first `procura` at or after character `inicio`, 0 if none.
 int InStr(int inicio, std::string_view s, std::string_view procura);
 
+// Nothing but blanks and tabs, or nothing at all: a field left empty.
+bool EmBranco(std::string_view s);
+
 // Lower-cases the letters of the Latin-1 range, as the platform's LCase.
 std::string LCase(std::string_view s);
 

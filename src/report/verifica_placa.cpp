@@ -3,6 +3,7 @@
 #include "plataforma/ambiente.h"
 #include "plataforma/notificador.h"
 #include "plataforma/numero.h"
+#include "plataforma/texto.h"
 #include "report/frm_relatorio.h"
 #include "report/linhas_iso.h"
 
@@ -18,10 +19,6 @@ LeituraVerificacao Erro(CampoVerificacao campo, std::string mensagem) {
     l.campo = campo;
     l.mensagem = std::move(mensagem);
     return l;
-}
-
-bool Vazio(const std::string& s) {
-    return s.find_first_not_of(" \t") == std::string::npos;
 }
 
 // A number by the program's rules, finite; none for any other text.
@@ -72,7 +69,7 @@ LeituraVerificacao LeVerificacao(const TextosVerificacao& t, const PontoDeProjet
     using C = CampoVerificacao;
     EntradaVerificacao e;
     e.ponto = p.iso;
-    if (Vazio(t.d20_mm)) return Erro(C::Diametro, "Digite o diâmetro do orifício a 20 ºC, em mm.");
+    if (EmBranco(t.d20_mm)) return Erro(C::Diametro, "Digite o diâmetro do orifício a 20 ºC, em mm.");
     const std::optional<double> d = Numero(t.d20_mm);
     if (!d)
         return Erro(C::Diametro, "O diâmetro do orifício a 20 ºC tem que ser um número, em mm "
@@ -106,7 +103,7 @@ LeituraVerificacao LeVerificacao(const TextosVerificacao& t, const PontoDeProjet
                       {t.incerteza_dp, e.incerteza_dp_pct, C::IncertezaDp, "Δp"},
                       {t.incerteza_rho, e.incerteza_rho_pct, C::IncertezaRho, "ρ1"}};
     for (const auto& u : incertezas) {
-        const std::optional<double> v = Vazio(u.texto) ? std::optional<double>(0) : Numero(u.texto);
+        const std::optional<double> v = EmBranco(u.texto) ? std::optional<double>(0) : Numero(u.texto);
         if (!v || *v < 0 || *v > IncertezaMaxima)
             return Erro(u.campo, std::string("A incerteza de ") + u.nome +
                                      " tem que ser um número de 0 a " +
